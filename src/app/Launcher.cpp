@@ -1,0 +1,24 @@
+#include "app/Launcher.h"
+
+#include "app/SettingsFile.h"
+#include "catalogue/GameLists.h"
+#include "launch/LaunchButton.h"
+#include "options/DisplayMode.h"
+#include "options/OptionTabs.h"
+#include "options/Skills.h"
+#include "savegames/SaveGames.h"
+#include "wad/MapList.h"
+
+Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, MainWindowHost& host,
+    const QString& rootPath)
+    : files(disk), processes(programs), prompts(questions), window(host), paths(rootPath),
+      environment(IwadEnvironment::ofProcess()), settings(DefaultSettings())
+{
+    ConnectGameLists(*this);
+    ConnectMapList(*this);
+    ConnectSaveGames(*this);
+    ConnectSkills(*this);
+    ConnectOptionTabs(*this);
+    ConnectDisplayMode(*this);
+    ConnectLaunchButton(*this);
+}

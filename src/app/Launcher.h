@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/Controls.h"
+#include "app/FontSetting.h"
+#include "app/InstallationPaths.h"
+#include "app/MainWindowHost.h"
+#include "app/Settings.h"
+#include "catalogue/Selection.h"
+#include "iwads/IwadPaths.h"
+#include "launch/LaunchState.h"
+#include "options/ModelPacks.h"
+#include "platform/FileSystem.h"
+#include "platform/Processes.h"
+#include "ui/Prompts.h"
+
+struct StartUpState
+{
+    QString LauncherVersion;
+    QString EngineVersion;
+    QString WindowCaption;
+    bool VersionUpdate = false; // the settings were reset
+    bool ConfigReadError = false; // ... because the first line could not be read
+    bool RunningUnderWine = false;
+    bool ShuttingDown = false; // nothing is saved any more
+};
+
+// Everything the launcher knows, and the services it works with, which must outlive it.
+struct Launcher
+{
+    Launcher(FileSystem& files, Processes& processes, Prompts& prompts, MainWindowHost& window,
+        const QString& rootPath);
+    Launcher(const Launcher&) = delete;
+    Launcher& operator=(const Launcher&) = delete;
+
+    FileSystem& files;
+    Processes& processes;
+    Prompts& prompts;
+    MainWindowHost& window;
+
+    InstallationPaths paths;
+    IwadEnvironment environment;
+    StartUpState startUp;
+    FontSetting font;
+    Settings settings;
+    Controls controls;
+    IwadPaths iwads;
+    Selection selection;
+    LaunchState launch;
+    ModelPacks modelPacks;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+#include <QString>
+
+// What the launcher asks of its windows. Positions and sizes are in layout units (device-independent
+// pixels), on the screen that the main window is on.
+class MainWindowHost
+{
+public:
+    virtual ~MainWindowHost() = default;
+
+    virtual QSize screenSize() const = 0;
+    virtual QSize size() const = 0;
+    virtual QPoint position() const = 0;
+    virtual void moveTo(QPoint topLeft) = 0;
+    virtual bool isInNormalState() const = 0; // neither minimised nor maximised
+    virtual bool isShown() const = 0;
+
+    virtual void show() = 0;
+    virtual void hide() = 0;
+    virtual void minimise() = 0;
+    virtual void bringToFront() = 0; // restores a minimised window
+
+    // Writes what changed in the controls to the widgets, as happens by itself after a user's event.
+    virtual void refresh() = 0;
+
+    virtual void showIwadForm() = 0; // modal
+
+    // Ends the program; the call returns and the caller must do nothing more.
+    virtual void endProgram() = 0;
+};

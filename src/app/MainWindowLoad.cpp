@@ -1,0 +1,193 @@
+#include "app/MainWindowLoad.h"
+
+#include "app/SettingsControls.h"
+#include "app/SettingsLoad.h"
+#include "app/Themes.h"
+#include "catalogue/GameLists.h"
+#include "options/DisplayMode.h"
+#include "options/PresenceChecks.h"
+#include "platform/Paths.h"
+#include "savegames/SaveGames.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int zipLibrary = 2; // ListMode
+constexpr int doomGames = 1;
+constexpr int exitMode = 2; // LaunchMode
+
+void createOwnFolders(Launcher& launcher)
+{
+    launcher.files.createFolder(launcher.paths.RootPath + u"/VYKGames"_s);
+    launcher.files.createFolder(launcher.paths.LaunchPath + u"GameInfo"_s);
+}
+
+void checkModelPacks(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    Settings& settings = launcher.settings;
+    const bool smokeAllowed = settings.GunSmoke && !settings.BasicDoom;
+    controls.Smoke[0].enabled = controls.Smoke[1].enabled = smokeAllowed;
+
+    launcher.modelPacks = FindModelPacks(launcher.files, launcher.paths);
+    if (!launcher.modelPacks.KelspackInstalled) {
+        settings.KelspackWeapons = settings.KelspackAlternative = false;
+        controls.chkAltModels[1].setTicked(false);
+        controls.chkAltModels[2].setTicked(false);
+    }
+}
+
+void emptyZipFolder(Launcher& launcher)
+{
+    const QString zips = launcher.paths.LaunchPath + u"Zips/"_s;
+    if (launcher.settings.LastLaunchMode != exitMode)
+        return;
+    for (const QString& name : launcher.files.files(zips)) {
+        try {
+            launcher.files.remove(zips + name);
+        } catch (const FileError&) {
+            // What is in use is deleted another time.
+        }
+    }
+}
+
+void placeWindow(Launcher& launcher)
+{
+    const QSize screen = launcher.window.screenSize();
+    const QSize window = launcher.window.size();
+    Settings& settings = launcher.settings;
+    const bool offScreen = screen.height() < settings.WindowTop || screen.width() < settings.WindowLeft
+        || settings.WindowTop < 0 || settings.WindowLeft + window.width() <= 0;
+    if (launcher.startUp.RunningUnderWine || offScreen)
+        launcher.window.moveTo(
+            {(screen.width() - window.width()) / 2, (screen.height() - window.height()) / 2});
+    else
+        launcher.window.moveTo({settings.WindowLeft, settings.WindowTop});
+    launcher.controls.WineImage.visible = launcher.startUp.RunningUnderWine;
+}
+
+void reportReset(Launcher& launcher)
+{
+    StartUpState& startUp = launcher.startUp;
+    if (!startUp.VersionUpdate)
+        return;
+    startUp.VersionUpdate = false;
+    const bool unreadable = std::exchange(startUp.ConfigReadError, false);
+    launcher.window.show();
+    const QString reason = unreadable
+        ? u"Corrupt config file detected required the launcher configurations to     "_s
+        : u"The latest version upgrade required the launcher configurations to     "_s;
+    launcher.prompts.MsgboxPos(
+        reason + u"\r\n"_s + u" be reset to the default settings, please reconfigure your settings. "_s,
+        Msg::Ok + Msg::SystemModal, u" Version update "_s + launcher.settings.LauncherVersion);
+}
+
+void showZeroTimes(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    if (launcher.settings.CorpseSeconds == 0) {
+        controls.TexLabel[1].caption = u"No corpse fade"_s;
+        controls.Corpse.colour = Colour::Accent;
+    }
+    if (launcher.settings.GrenadeTime == 0) {
+        controls.ChkGL.caption = u"Pipebomb launcher"_s;
+        controls.Timeout.colour = Colour::Accent;
+    }
+}
+
+} // namespace
+
+void LoadMainWindow(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    Settings& settings = launcher.settings;
+
+    createOwnFolders(launcher);
+    LoadSettings(launcher);
+    if (launcher.startUp.ShuttingDown)
+        return;
+    checkModelPacks(launcher);
+    GetTitlePic(launcher);
+    if (!settings.AdvancedOptions)
+        DefaultMode(launcher);
+
+    BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
+    if (!launcher.iwads.anyKnown())
+        settings.SelectedDoomGame.clear();
+    emptyZipFolder(launcher);
+    placeWindow(launcher);
+    ApplySettingsToControls(settings, controls);
+    if (settings.DevelopmentMode)
+        controls.chkTesting.visible = controls.ExitOption[0].visible = true;
+    if (settings.LaunchMode == 0)
+        controls.ExitOption[0].visible = true;
+    if (controls.SkillsLevel[1].selected() == 0)
+        launcher.launch.StartChoice = StartChoice::NewGame;
+    SelectStartupOptions(launcher);
+
+    const bool viewIsHidden = settings.ListMode == zipLibrary && !settings.AdvancedOptions;
+    OptionUdirClick(launcher, viewIsHidden ? doomGames : qBound(0, settings.ListMode, zipLibrary));
+    if (launcher.iwads.ShowIwads[0].isEmpty())
+        launcher.window.showIwadForm();
+    if (launcher.startUp.ShuttingDown)
+        return;
+
+    CheckPacksAtLoad(launcher);
+    controls.SoundFrame[1].visible = !settings.PlaylistFrameHidden;
+    reportReset(launcher);
+    showZeroTimes(launcher);
+    controls.MainForm.caption = launcher.startUp.WindowCaption;
+    launcher.window.refresh();
+}
+
+void UnloadMainWindow(Launcher& launcher)
+{
+    if (launcher.startUp.ShuttingDown)
+        return;
+    Settings& settings = launcher.settings;
+    if (!launcher.startUp.RunningUnderWine && launcher.window.isInNormalState()) {
+        settings.WindowTop = launcher.window.position().y();
+        settings.WindowLeft = launcher.window.position().x();
+    }
+    try {
+        launcher.files.remove(launcher.paths.LaunchDataPath + u"pwad.vyk"_s);
+    } catch (const FileError&) {
+        // The last report of the game-file tool matters to nobody.
+    }
+    ReadControlsToSettings(settings, launcher.controls);
+    try {
+        if (!launcher.startUp.VersionUpdate)
+            SaveSettings(launcher);
+    } catch (const FileError&) {
+        launcher.prompts.MsgboxPos(u"The settings could not be saved to    \r\n"_s
+                + NativePath(ConfigPath(launcher)) + u"    "_s,
+            Msg::Ok + Msg::Exclamation, u" Access error"_s);
+    }
+}
+
+void ActivateMainWindow(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    if (launcher.settings.SelectedDoomGame.isEmpty())
+        controls.PwadList.select(0);
+    if (!launcher.files.fileExists(launcher.paths.LaunchPath + u"music/auto-playlist.vyk"_s))
+        controls.chkSound[4].setTicked(false);
+    if (launcher.launch.AfterLaunch)
+        RefreshSaveGames(launcher);
+}
+
+void ResizeMainWindow(Launcher& launcher)
+{
+    if (launcher.window.isInNormalState() && std::exchange(launcher.launch.AfterLaunch, false))
+        RefreshSaveGames(launcher);
+}
+
+bool EnterPressed(Launcher& launcher)
+{
+    const Button& launch = launcher.controls.LaunchButton;
+    if (!launch.enabled)
+        return false;
+    launch.clicked();
+    return true;
+}

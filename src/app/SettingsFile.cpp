@@ -1,0 +1,96 @@
+#include "app/SettingsFile.h"
+
+#include "app/SettingsTable.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::span<const SettingRow> rowsOfFile(bool withPosition)
+{
+    const auto rows = SettingsTable();
+    return withPosition ? rows : rows.first(rows.size() - WinePositionLines);
+}
+
+// A decimal number with the blanks ignored and the fraction dropped toward negative infinity.
+std::optional<double> numberOf(QString line)
+{
+    line.remove(u' ').remove(u'\t');
+    for (const QChar c : line)
+        if (!u"0123456789+-.eE"_s.contains(c))
+            return std::nullopt;
+    bool isNumber = false;
+    const double number = line.toDouble(&isNumber);
+    const bool tooLarge = std::isinf(number); // a decimal number all the same
+    return isNumber || tooLarge ? std::optional(std::floor(number)) : std::nullopt;
+}
+
+bool fits(double number, LineKind kind)
+{
+    if (kind == LineKind::LongNumber)
+        return number >= std::numeric_limits<qint32>::min() && number <= std::numeric_limits<qint32>::max();
+    return number >= std::numeric_limits<qint16>::min() && number <= std::numeric_limits<qint16>::max();
+}
+
+QString formatted(int number)
+{
+    return (number < 0 ? QString() : u" "_s) + QString::number(number) + u" "_s;
+}
+
+} // namespace
+
+Settings DefaultSettings()
+{
+    Settings settings;
+    for (const SettingRow& row : SettingsTable()) {
+        if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
+            settings.**flag = std::get<bool>(row.start);
+        else if (const auto* number = std::get_if<int Settings::*>(&row.member))
+            settings.**number = std::get<int>(row.start);
+        else
+            settings.*std::get<QString Settings::*>(row.member) =
+                QString::fromUtf16(std::get<const char16_t*>(row.start));
+    }
+    return settings;
+}
+
+ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withPosition)
+{
+    for (const SettingRow& row : rowsOfFile(withPosition)) {
+        if (row.line > lines.size())
+            return ReadResult::Stopped;
+        const QString& line = lines.at(row.line - 1);
+        if (const auto* text = std::get_if<QString Settings::*>(&row.member)) {
+            settings.**text = line;
+            continue;
+        }
+        const std::optional<double> number = numberOf(line);
+        if (!number)
+            return ReadResult::Corrupt;
+        if (!fits(*number, row.kind))
+            return ReadResult::Stopped;
+        if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
+            settings.**flag = *number != 0;
+        else
+            settings.*std::get<int Settings::*>(row.member) = static_cast<int>(*number);
+    }
+    return ReadResult::Complete;
+}
+
+QStringList SettingsLines(const Settings& settings, bool withPosition)
+{
+    QStringList lines;
+    for (const SettingRow& row : rowsOfFile(withPosition)) {
+        if (const auto* text = std::get_if<QString Settings::*>(&row.member))
+            lines << settings.**text;
+        else if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
+            lines << formatted(settings.**flag ? 1 : 0);
+        else
+            lines << formatted(settings.*std::get<int Settings::*>(row.member));
+    }
+    return lines;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "app/Settings.h"
+
+#include <QStringList>
+
+// The lines of config.vyk.
+
+// Every setting's default; the window position is 0.
+Settings DefaultSettings();
+
+enum class ReadResult {
+    Complete,
+    Stopped, // the lines ended early or a number was out of range: the rest keeps what it had
+    Corrupt, // a number or flag line is no number
+};
+
+// Reads the lines into `settings` in the order of the table. `withPosition` is false under "/WINE", where
+// the last two lines are neither read nor written.
+ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withPosition);
+
+QStringList SettingsLines(const Settings& settings, bool withPosition);

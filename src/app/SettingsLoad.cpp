@@ -1,0 +1,122 @@
+#include "app/SettingsLoad.h"
+
+#include "app/SettingsFile.h"
+#include "app/StartUp.h"
+#include "platform/Paths.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPoint centred(const MainWindowHost& window)
+{
+    return {(window.screenSize().width() - window.size().width()) / 2,
+        (window.screenSize().height() - window.size().height()) / 2};
+}
+
+QString firstLineOf(const FileSystem& files, const QString& path)
+{
+    try {
+        return files.fileExists(path) ? ReadLines(files, path).value(0) : QString();
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
+void setDefaults(Launcher& launcher)
+{
+    const QString texturePath = launcher.settings.TexturePath;
+    launcher.settings = DefaultSettings();
+    launcher.settings.TexturePath = texturePath;
+    const QPoint centre = centred(launcher.window);
+    launcher.settings.WindowTop = centre.y();
+    launcher.settings.WindowLeft = centre.x();
+}
+
+void reportCorruptConfig(Launcher& launcher)
+{
+    setDefaults(launcher);
+    launcher.window.moveTo(centred(launcher.window));
+    launcher.startUp.VersionUpdate = true;
+    bool setAside = true;
+    try {
+        SetConfigAside(launcher);
+    } catch (const FileError&) {
+        setAside = false; // a restart would only find the same file again
+    }
+    launcher.prompts.MsgboxPos(u" The Launcher has detected a configuration error, the default  \r\n"
+                               " settings will be reset, please reconfigure launcher settings. "_s,
+        Msg::Ok + Msg::SystemModal, u" Configuration error detected"_s);
+    if (!setAside)
+        return;
+    RestartLauncher(launcher);
+    ShutDownLauncher(launcher);
+}
+
+void adjust(Launcher& launcher)
+{
+    constexpr int longestGrenadeTime = 7;
+    Settings& settings = launcher.settings;
+    if (settings.CorpseSeconds == 0) {
+        CheckBox& resurrect = launcher.controls.chkVYKOpts[3];
+        settings.ResurrectCorpses = false;
+        resurrect.setTicked(false);
+        resurrect.enabled = false;
+        launcher.controls.Corpse.colour = Colour::Accent;
+    }
+    settings.GrenadeTime = std::clamp(settings.GrenadeTime, 0, longestGrenadeTime);
+}
+
+} // namespace
+
+QString ConfigPath(const Launcher& launcher)
+{
+    return launcher.paths.LaunchPath + u"config.vyk"_s;
+}
+
+void SetConfigAside(Launcher& launcher)
+{
+    const QString path = ConfigPath(launcher);
+    if (!launcher.files.fileExists(path))
+        return;
+    QString copy = path + u".bak"_s;
+    for (int number = 2; launcher.files.fileExists(copy); ++number)
+        copy = path + u".bak"_s + QString::number(number);
+    launcher.files.copy(path, copy);
+    launcher.files.remove(path);
+}
+
+void LoadSettings(Launcher& launcher)
+{
+    Settings& settings = launcher.settings;
+    const FileSystem& files = launcher.files;
+    setDefaults(launcher);
+    settings.TexturePath = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"texpath.vyk"_s));
+    const QString archives
+        = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"archives.vyk"_s));
+    if (!archives.isEmpty())
+        launcher.paths.ArchivesPath = archives;
+
+    ReadResult result = ReadResult::Stopped;
+    try {
+        if (files.fileExists(ConfigPath(launcher)))
+            result = ReadSettings(
+                settings, ReadLines(files, ConfigPath(launcher)), !launcher.startUp.RunningUnderWine);
+    } catch (const FileError&) {
+        // What could not be read keeps its default.
+    }
+    if (result == ReadResult::Corrupt)
+        reportCorruptConfig(launcher);
+    adjust(launcher);
+}
+
+void SaveSettings(Launcher& launcher)
+{
+    Settings& settings = launcher.settings;
+    (settings.AutoSelect ? settings.SelectedGameAutoOn : settings.SelectedGameAutoOff) = settings.SelectedGame;
+    WriteLines(launcher.files, ConfigPath(launcher),
+        SettingsLines(settings, !launcher.startUp.RunningUnderWine));
+}

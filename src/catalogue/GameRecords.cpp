@@ -1,0 +1,113 @@
+#include "catalogue/GameRecords.h"
+
+#include "platform/Paths.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The record's path under `folder`; empty for a name that would leave it.
+QString recordPath(const QString& folder, const QString& name, const QString& ending)
+{
+    if (name.trimmed().isEmpty() || FileNameOf(name) != name)
+        return {};
+    return folder + name.toLower() + ending;
+}
+
+QString mapRecordPath(const Launcher& launcher, const QString& name)
+{
+    const Selection& selection = launcher.selection;
+    const QString info = launcher.paths.LaunchPath + u"GameInfo/"_s;
+    if (selection.DoomGameSelected)
+        return recordPath(info + u"Iwads/"_s, RecordKeyOf(name), u".vykm"_s);
+    if (selection.PwadSelected)
+        return recordPath(info + u"Pwads/"_s, name, u".vykm"_s);
+    if (selection.ArchiveSelected)
+        return recordPath(info + u"Zips/"_s, name, u".vykm"_s);
+    return {};
+}
+
+QString savegameRecordPath(const Launcher& launcher)
+{
+    const Selection& selection = launcher.selection;
+    const QString save = launcher.paths.LaunchPath + u"GameInfo/Save/"_s;
+    const QString name = SelectedRecordName(launcher);
+    if (selection.DoomGameSelected)
+        return recordPath(save, RecordKeyOf(name), u".vyks"_s);
+    if (selection.PwadSelected)
+        return recordPath(save, name, u".vyks"_s);
+    if (selection.ArchiveSelected)
+        return recordPath(save + u"Zip/"_s, name, u".vyks"_s);
+    return {};
+}
+
+void writeRecord(FileSystem& files, const QString& path, const QString& line)
+{
+    if (path.isEmpty())
+        return;
+    try {
+        files.createFolder(FolderOf(path));
+        WriteLines(files, path, {line});
+    } catch (const FileError&) {
+    }
+}
+
+QString readRecord(const FileSystem& files, const QString& path)
+{
+    if (path.isEmpty() || !files.fileExists(path))
+        return {};
+    try {
+        return FirstField(ReadLines(files, path).value(0));
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
+} // namespace
+
+QString SelectedRecordName(const Launcher& launcher)
+{
+    if (launcher.selection.DoomGameSelected)
+        return launcher.settings.SelectedDoomGame;
+    if (launcher.selection.ArchiveSelected)
+        return launcher.settings.SelectedArchive;
+    return launcher.selection.GwadSelected ? launcher.selection.SelectedGwadGame
+                                           : launcher.selection.SelectedPwadGame;
+}
+
+void SaveLastMap(Launcher& launcher, const QString& name)
+{
+    if (launcher.controls.PwadShowlist.selectedText().isEmpty())
+        return;
+    writeRecord(launcher.files, mapRecordPath(launcher, name), launcher.controls.MapList.selectedText());
+}
+
+void RestoreLastMap(Launcher& launcher, const QString& name)
+{
+    ListBox& maps = launcher.controls.MapList;
+    maps.select(std::max(maps.find(readRecord(launcher.files, mapRecordPath(launcher, name))), 0));
+}
+
+void SaveLastSavegame(Launcher& launcher)
+{
+    writeRecord(launcher.files, savegameRecordPath(launcher), launcher.launch.SaveSlot);
+}
+
+void ForgetLastSavegame(Launcher& launcher)
+{
+    const QString path = savegameRecordPath(launcher);
+    if (path.isEmpty())
+        return;
+    try {
+        launcher.files.remove(path);
+    } catch (const FileError&) {
+    }
+}
+
+QString LastSavegame(const Launcher& launcher)
+{
+    return readRecord(launcher.files, savegameRecordPath(launcher)).left(1);
+}

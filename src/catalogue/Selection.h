@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+// What is selected in the games list and in the lists beside it. The names selected in each view are
+// settings; the list that is shown is Settings::ListMode.
+struct Selection
+{
+    QString SelectedPwadGame;
+    QString SelectedGwadGame;
+    QString SelectedGameFolder; // ends in '/'
+    QString SelectedGameFile; // the main WAD's path; empty when none is chosen
+    QString SelectedWadPath; // the WAD whose maps are shown: for a Doom game its IWAD
+    QString GameUserDir; // the game's own folder name; for a zip the folder of its files
+
+    // At most one is set.
+    bool DoomGameSelected = false;
+    bool PwadSelected = false;
+    bool GwadSelected = false;
+    bool ArchiveSelected = false;
+
+    QString SaveGameFolder; // of the selected game
+};

@@ -1,0 +1,23 @@
+#include "launch/LaunchButton.h"
+
+#include "platform/Paths.h"
+
+using namespace Qt::StringLiterals;
+
+void ConnectLaunchButton(Launcher& launcher)
+{
+    launcher.controls.LaunchButton.clicked = [&launcher] { LaunchSelectedGame(launcher); };
+}
+
+LaunchResult LaunchSelectedGame(Launcher& launcher)
+{
+    if (launcher.controls.MapList.entry(0).isEmpty()) {
+        const QString tail = FileNameOf(launcher.selection.SelectedGameFile) + u" contains no levels.    "_s;
+        launcher.prompts.MsgboxPos(
+            u"The "_s + tail.toLower(), Msg::Ok + Msg::Information, u" Wad error"_s);
+        return LaunchResult::Refused;
+    }
+    if (!launcher.selection.DoomGameSelected)
+        return LaunchResult::Refused; // installed games and zips have no launch routine yet
+    return LaunchCommercialGame(launcher);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "app/InstallationPaths.h"
+#include "app/Settings.h"
+#include "platform/FileSystem.h"
+
+// Which of the optional model packs are installed.
+struct ModelPacks
+{
+    bool ModelPacksMissing = true; // the base pack is not there
+    bool KelspackInstalled = false; // the optional weapons
+};
+
+// Looks for the packs' marker files.
+ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& paths);
+
+// False when exactly one of the two HUD-weapons definition files carries the current header; then the
+// Tovrens replacements are switched off in `settings`.
+bool CheckHudWeaponsDefs(Settings& settings, const FileSystem& files, const InstallationPaths& paths);

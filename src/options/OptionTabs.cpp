@@ -1,0 +1,38 @@
+#include "options/OptionTabs.h"
+
+#include "catalogue/GameLists.h"
+#include "options/PresenceChecks.h"
+
+namespace {
+
+enum Tab { Games, Options, Graphics, Sound, Models };
+constexpr size_t cleanupButton = 8; // AuxButton
+constexpr size_t shortcutButton = 2;
+
+void tabClicked(Launcher& launcher, int tab)
+{
+    Controls& controls = launcher.controls;
+    for (int i = 0; i < controls.OptionTabs.count(); ++i) {
+        controls.OptionTabs[i].colour = i == tab ? Colour::Accent : Colour::Normal;
+        controls.TabFrame[static_cast<size_t>(i)].visible = i == tab;
+    }
+    if (tab == Graphics)
+        CheckGraphicsPacks(launcher);
+    else if (tab == Sound)
+        CheckSoundPack(launcher);
+
+    const bool canLaunch = CanLaunchSelection(launcher);
+    controls.LaunchButton.enabled = canLaunch;
+    controls.AuxButton[shortcutButton].enabled = canLaunch && launcher.settings.ShortcutCreation;
+    controls.AuxButton[cleanupButton].visible = tab == Models;
+    if (tab != Games)
+        controls.chkMain[1].visible = true;
+}
+
+} // namespace
+
+void ConnectOptionTabs(Launcher& launcher)
+{
+    launcher.controls.OptionTabs.clicked = [&launcher](int tab) { tabClicked(launcher, tab); };
+    launcher.controls.OptionTabs[Games].colour = Colour::Accent;
+}

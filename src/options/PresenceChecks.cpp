@@ -1,0 +1,91 @@
+#include "options/PresenceChecks.h"
+
+#include "platform/Paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr size_t highResTextures = 1; // chkMain
+constexpr size_t detailTextures = 2; // chkGraphics
+constexpr size_t skyboxes = 3;
+constexpr size_t highResPatches = 4;
+constexpr size_t soundPack = 6; // chkSound
+
+const QString notInstalled = u"Not installed or the specified path is invalid"_s;
+
+// The player's patches lie beside the textures, in the same parent folder or in the folder itself.
+bool patchesBesideTextures(const Launcher& launcher)
+{
+    const QString path = launcher.settings.TexturePath;
+    return !path.isEmpty()
+        && (launcher.files.folderExists(path + u"/Patches"_s)
+            || launcher.files.folderExists(FolderOf(path) + u"/Patches"_s));
+}
+
+} // namespace
+
+bool TexturePathValid(Launcher& launcher)
+{
+    const FileSystem& files = launcher.files;
+    QString& path = launcher.settings.TexturePath;
+    if (!files.folderExists(path))
+        path = WithSlashes(launcher.controls.HiResText.text);
+    if (!path.isEmpty()
+        && (files.folderExists(path + u"/Textures"_s)
+            || (SameName(FileNameOf(path), u"Textures"_s) && files.folderExists(path))))
+        return true;
+    const QString own = launcher.paths.RootPath + u"/Data/Textures"_s;
+    if (!files.folderExists(own))
+        return false;
+    path = own;
+    launcher.controls.HiResText.text = NativePath(own);
+    return true;
+}
+
+void CheckGraphicsPacks(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    const QString data = launcher.paths.RootPath + u"/Data/"_s;
+    if (controls.chkMain[0].ticked())
+        return;
+    if (launcher.files.fileExists(data + u"patches/stbar.png"_s) || patchesBesideTextures(launcher)) {
+        controls.chkGraphics[highResPatches].enabled = true;
+        launcher.settings.HighResPatches = controls.chkGraphics[highResPatches].ticked();
+    }
+    CheckBox& textures = controls.chkMain[highResTextures];
+    if (!TexturePathValid(launcher)) {
+        textures.enabled = false;
+        controls.HiResText.text = notInstalled;
+    } else if (textures.enabled && textures.ticked()) {
+        controls.HiResText.text = NativePath(launcher.settings.TexturePath);
+        launcher.settings.HighResTextures = true;
+    }
+    if (launcher.files.fileExists(data + u"dtex/detail.wad"_s) && !launcher.settings.HighResTextures)
+        controls.chkGraphics[detailTextures].enabled = true;
+    if (launcher.files.folderExists(data + u"Skyboxes"_s)) {
+        CheckBox& box = controls.chkGraphics[skyboxes];
+        box.enabled = true;
+        if (box.ticked())
+            controls.SkyOpt[0].enabled = controls.SkyOpt[1].enabled = true;
+    }
+}
+
+void CheckSoundPack(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked()
+        && launcher.files.fileExists(launcher.paths.RootPath + u"/Data/hv_doom_sfx.wad"_s))
+        controls.chkSound[soundPack].enabled = true;
+}
+
+void CheckPacksAtLoad(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    if (controls.chkMain[0].ticked())
+        return;
+    const bool valid = TexturePathValid(launcher);
+    controls.chkMain[highResTextures].enabled = valid;
+    controls.HiResText.text = valid ? NativePath(launcher.settings.TexturePath) : notInstalled;
+    CheckGraphicsPacks(launcher);
+}

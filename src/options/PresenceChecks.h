@@ -1,0 +1,18 @@
+#pragma once
+
+#include "app/Launcher.h"
+
+// Which resource packs are installed; they enable the options that need them.
+
+// True when the folder of high-resolution textures is there. A TexturePath that is not is replaced by the
+// texture dialog's text or by the installation's own folder.
+bool TexturePathValid(Launcher& launcher);
+
+// Enables the boxes of patches, textures, detail textures and skyboxes that are installed.
+void CheckGraphicsPacks(Launcher& launcher);
+
+// Enables the box of the sound pack when it is installed.
+void CheckSoundPack(Launcher& launcher);
+
+// At start-up: shows the texture folder in the texture dialog, then checks the graphics packs.
+void CheckPacksAtLoad(Launcher& launcher);

@@ -1,0 +1,300 @@
+#include "platform/DiskFileSystem.h"
+
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <algorithm>
+#include <cerrno>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = FileError::Kind;
+
+Kind KindOf(int error)
+{
+    switch (error) {
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return Kind::PermissionDenied;
+    case ENOENT:
+        return Kind::NotFound;
+    case EEXIST:
+    case ENOTEMPTY:
+        return Kind::Exists;
+    case EBUSY:
+    case ETXTBSY:
+        return Kind::InUse;
+    default:
+        return Kind::Other;
+    }
+}
+
+// Qt's own error classes keep little of the reason, so errno decides; the caller clears it before.
+[[noreturn]] void Fail(const QString& path, const QFileDevice& file)
+{
+    const Kind kind = KindOf(errno);
+    const bool refused = kind == Kind::Other && file.error() == QFileDevice::PermissionsError;
+    throw FileError(refused ? Kind::PermissionDenied : kind, path, file.errorString());
+}
+
+[[noreturn]] void Fail(const QString& path)
+{
+    const int error = errno;
+    throw FileError(KindOf(error), path, qt_error_string(error));
+}
+
+// Ascending without regard to case; the exact spelling decides between names that differ in nothing else.
+bool Before(const QString& a, const QString& b)
+{
+    const int order = a.compare(b, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : a < b;
+}
+
+QStringList Entries(const QString& folder, QDir::Filters kinds)
+{
+    if (folder.isEmpty())
+        return {};
+    return QDir(folder).entryList(kinds | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Unsorted);
+}
+
+QStringList SortedEntries(const QString& folder, QDir::Filters kinds)
+{
+    QStringList names = Entries(folder, kinds);
+    std::ranges::sort(names, Before);
+    return names;
+}
+
+// A link that leads nowhere is there too: it can be removed, and it keeps a folder from being removed.
+bool IsThere(const QString& path)
+{
+    const QFileInfo entry(path);
+    return entry.exists() || entry.isSymLink();
+}
+
+QString Joined(const QString& folder, const QString& name)
+{
+    return folder.isEmpty() || folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+// The name in `folder` that differs from `name` in case alone; empty when there is none.
+QString OtherSpelling(const QString& folder, const QString& name)
+{
+    QString best;
+    const QStringList names = Entries(folder, QDir::AllEntries | QDir::System);
+    for (const QString& candidate : names)
+        if (SameName(candidate, name) && (best.isEmpty() || Before(candidate, best)))
+            best = candidate;
+    return best;
+}
+
+struct Found
+{
+    QString path; // spelled as on disk as far as it exists there, with '/', without one at its end
+    bool whole;   // all of it exists
+};
+
+bool IsPath(const QString& text)
+{
+    constexpr qsizetype longest = 32767; // no system takes more
+    return !text.isEmpty() && text.size() <= longest && !text.contains(QChar::Null);
+}
+
+Found Find(const QString& wanted)
+{
+    if (!IsPath(wanted))
+        return {{}, false};
+    QString path = WithSlashes(wanted);
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+
+    QStringList missing; // the deepest first
+    while (!path.isEmpty() && !IsThere(path)) {
+        missing += FileNameOf(path);
+        path = FolderOf(path);
+    }
+    while (!missing.isEmpty()) {
+        const QString name = OtherSpelling(path, missing.last());
+        if (name.isEmpty())
+            break;
+        path = Joined(path, name);
+        missing.removeLast();
+        // Below a folder that was found under another spelling the exact names come first again.
+        while (!missing.isEmpty() && IsThere(Joined(path, missing.last())))
+            path = Joined(path, missing.takeLast());
+    }
+    const bool whole = missing.isEmpty();
+    while (!missing.isEmpty())
+        path = Joined(path, missing.takeLast());
+    return {path, whole};
+}
+
+// Find for the functions that change something.
+Found FindTarget(const QString& path)
+{
+    if (!IsPath(path))
+        throw FileError(Kind::Other, path, u"not a path"_s);
+    return Find(path);
+}
+
+QString ExistingFile(const QString& path)
+{
+    const Found found = Find(path);
+    if (!found.whole)
+        throw FileError(IsPath(path) ? Kind::NotFound : Kind::Other, path, u"no such file"_s);
+    // Opening a pipe would wait for a writer.
+    if (!QFileInfo(found.path).isFile())
+        throw FileError(Kind::Other, found.path, u"not a file"_s);
+    return found.path;
+}
+
+void RequireWritable(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return;
+    if (!file.isFile())
+        throw FileError(Kind::Other, path, u"not a file"_s);
+    // The bits count, not only the user's rights: an administrator's read-only file stays as it is.
+    const auto anyone = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    if (!(file.permissions() & anyone) || !file.isWritable())
+        throw FileError(Kind::PermissionDenied, path, u"the file is read-only"_s);
+}
+
+// Replaces the file by what `fill` writes into it.
+void Replace(const QString& wanted, const std::function<void(QSaveFile&)>& fill)
+{
+    const QString path = FindTarget(wanted).path;
+    if (!QFileInfo(FolderOf(path)).isDir())
+        throw FileError(Kind::NotFound, path, u"no such folder"_s);
+    RequireWritable(path);
+    QSaveFile file(path);
+    file.setDirectWriteFallback(false);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly))
+        Fail(path, file);
+    fill(file);
+    errno = 0;
+    if (!file.commit())
+        Fail(path, file);
+}
+
+void Append(QSaveFile& file, const QByteArray& bytes)
+{
+    errno = 0;
+    if (file.write(bytes) != bytes.size())
+        Fail(file.fileName(), file);
+}
+
+void OpenForReading(QFile& file)
+{
+    errno = 0;
+    if (!file.open(QIODevice::ReadOnly))
+        Fail(file.fileName(), file);
+}
+
+QByteArray ReadSome(QFile& file, qint64 size)
+{
+    errno = 0;
+    const QByteArray bytes = file.read(size);
+    if (file.error() != QFileDevice::NoError)
+        Fail(file.fileName(), file);
+    return bytes;
+}
+
+} // namespace
+
+QString DiskFileSystem::actualPath(const QString& path) const
+{
+    const Found found = Find(path);
+    return found.whole ? found.path : QString();
+}
+
+bool DiskFileSystem::fileExists(const QString& path) const
+{
+    const Found found = Find(path);
+    return found.whole && QFileInfo(found.path).isFile();
+}
+
+bool DiskFileSystem::folderExists(const QString& path) const
+{
+    const Found found = Find(path);
+    return found.whole && QFileInfo(found.path).isDir();
+}
+
+QStringList DiskFileSystem::files(const QString& folder) const
+{
+    return SortedEntries(actualPath(folder), QDir::Files);
+}
+
+QStringList DiskFileSystem::folders(const QString& folder) const
+{
+    return SortedEntries(actualPath(folder), QDir::Dirs);
+}
+
+QDateTime DiskFileSystem::modified(const QString& path) const
+{
+    const Found found = Find(path);
+    return found.whole ? QFileInfo(found.path).lastModified() : QDateTime();
+}
+
+QByteArray DiskFileSystem::read(const QString& path, qint64 limit) const
+{
+    QFile file(ExistingFile(path));
+    OpenForReading(file);
+    return ReadSome(file, std::clamp<qint64>(limit, 0, file.size()));
+}
+
+void DiskFileSystem::write(const QString& path, const QByteArray& bytes)
+{
+    Replace(path, [&bytes](QSaveFile& file) { Append(file, bytes); });
+}
+
+void DiskFileSystem::copy(const QString& from, const QString& to)
+{
+    constexpr qint64 pieceSize = 1024 * 1024;
+    QFile source(ExistingFile(from));
+    OpenForReading(source);
+    Replace(to, [&source](QSaveFile& file) {
+        for (QByteArray piece = ReadSome(source, pieceSize); !piece.isEmpty();
+             piece = ReadSome(source, pieceSize))
+            Append(file, piece);
+    });
+}
+
+void DiskFileSystem::remove(const QString& path)
+{
+    const Found found = FindTarget(path);
+    if (!found.whole)
+        return;
+    if (const QFileInfo entry(found.path); entry.isDir() && !entry.isSymLink())
+        throw FileError(Kind::Other, found.path, u"not a file"_s);
+    QFile file(found.path);
+    errno = 0;
+    if (!file.remove())
+        Fail(found.path, file);
+}
+
+void DiskFileSystem::createFolder(const QString& path)
+{
+    const Found found = FindTarget(path);
+    if (found.whole && !QFileInfo(found.path).isDir())
+        throw FileError(Kind::Exists, found.path, u"a file has the folder's name"_s);
+    errno = 0;
+    if (!found.whole && !QDir().mkpath(found.path))
+        Fail(found.path);
+}
+
+void DiskFileSystem::removeFolder(const QString& path)
+{
+    const Found found = FindTarget(path);
+    errno = 0;
+    if (!QDir().rmdir(found.path))
+        Fail(found.path);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+// The real disk.
+class DiskFileSystem : public FileSystem
+{
+public:
+    QString actualPath(const QString& path) const override;
+    bool fileExists(const QString& path) const override;
+    bool folderExists(const QString& path) const override;
+    QStringList files(const QString& folder) const override;
+    QStringList folders(const QString& folder) const override;
+    QDateTime modified(const QString& path) const override;
+    QByteArray read(const QString& path, qint64 limit) const override;
+    void write(const QString& path, const QByteArray& bytes) override;
+    void copy(const QString& from, const QString& to) override;
+    void remove(const QString& path) override;
+    void createFolder(const QString& path) override;
+    void removeFolder(const QString& path) override;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+// A file operation that failed. Commands catch it once, show their one message and end.
+class FileError : public std::runtime_error
+{
+public:
+    enum class Kind { PermissionDenied, NotFound, Exists, InUse, Other };
+
+    // `path` is the file or folder that the operation stumbled over; `detail` is the system's own text.
+    FileError(Kind kind, const QString& path, const QString& detail);
+
+    Kind kind() const { return m_kind; }
+    const QString& path() const { return m_path; }
+
+private:
+    Kind m_kind;
+    QString m_path;
+};

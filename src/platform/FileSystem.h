@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/FileError.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+// The disk. Every path is absolute and written with '/'; a '\' is accepted and means the same. Names
+// compare without regard to case: a path that does not exist as it is spelled is looked for folder by
+// folder (the exact spelling is tried first, so the common case costs one call). Where two names of a
+// folder differ in case alone and neither is spelled exactly, the first in ascending order is taken.
+//
+// The functions that change something, and `read`, throw FileError. Tests put a double in its place.
+class FileSystem
+{
+public:
+    virtual ~FileSystem() = default;
+
+    // The path as it is spelled on disk; empty when nothing exists there or `path` is empty.
+    virtual QString actualPath(const QString& path) const = 0;
+    virtual bool fileExists(const QString& path) const = 0;
+    virtual bool folderExists(const QString& path) const = 0;
+
+    // The names (not paths) of the files or folders directly in `folder`, ascending without regard to
+    // case; empty when the folder does not exist. Hidden entries are included, "." and ".." are not.
+    virtual QStringList files(const QString& folder) const = 0;
+    virtual QStringList folders(const QString& folder) const = 0;
+
+    // The time of the last change; invalid when the file does not exist.
+    virtual QDateTime modified(const QString& path) const = 0;
+
+    // The file's bytes, at most `limit` of them. Throws FileError.
+    virtual QByteArray read(const QString& path, qint64 limit = maximumSize) const = 0;
+
+    // Replaces the file by `bytes`, or creates it: after a crash there is the old file or the new one.
+    // A read-only file is refused with PermissionDenied. The folder must exist. Throws FileError.
+    virtual void write(const QString& path, const QByteArray& bytes) = 0;
+
+    // Copies a file whole, replacing `to`, under the same promise as `write`. Throws FileError.
+    virtual void copy(const QString& from, const QString& to) = 0;
+
+    // Deletes a file, also when it is read-only; one that does not exist is no failure. Throws FileError.
+    virtual void remove(const QString& path) = 0;
+
+    // Creates the folder and the folders above it; one that exists is no failure. Throws FileError.
+    virtual void createFolder(const QString& path) = 0;
+
+    // Deletes an empty folder; throws FileError, also when the folder holds something.
+    virtual void removeFolder(const QString& path) = 0;
+
+    // No file that the launcher reads whole is larger (bytes).
+    static constexpr qint64 maximumSize = 64 * 1024 * 1024;
+};

@@ -1,0 +1,1 @@
+#include "tools/VYKplay/Play.h"

@@ -1,0 +1,143 @@
+#include "tools/engine/EngineAdapter.h"
+
+#include "platform/Paths.h"
+#include "platform/Text.h"
+#include "tools/engine/EngineFailure.h"
+#include "tools/engine/EngineSavegames.h"
+#include "tools/engine/EngineTranslation.h"
+#include "tools/wadreader/WadDirectory.h"
+
+#include <QFile>
+#include <QLockFile>
+#include <QProcess>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int failed = 1;
+constexpr int publishInterval = 1000; // milliseconds
+
+int MapsOf(const QString& path)
+{
+    const auto directory = readWadDirectory(QFile::encodeName(path).toStdString());
+    return directory ? static_cast<int>(directory->maps.size()) : 0;
+}
+
+void Complain(const QString& message)
+{
+    std::fprintf(stderr, "Keldrax: %s\n", qPrintable(message));
+}
+
+// Keldrax.out. A report that cannot be written keeps nobody from playing.
+class Report
+{
+public:
+    Report(FileSystem& files, const QString& root) : m_files(files), m_path(root + u"/Keldrax.out"_s) {}
+
+    // Starts the report anew. False when it cannot be written.
+    bool rewrite(const QStringList& lines)
+    {
+        try {
+            WriteLines(m_files, m_path, lines);
+            m_path = m_files.actualPath(m_path);
+            return true;
+        } catch (const FileError& error) {
+            Complain(QString::fromUtf8(error.what()));
+            return false;
+        }
+    }
+
+    // Adds a line behind what the engine printed.
+    void append(const QString& line)
+    {
+        QFile file(m_path);
+        if (file.open(QFile::Append))
+            file.write(line.toUtf8() + "\r\n");
+    }
+
+    const QString& path() const { return m_path; }
+
+private:
+    FileSystem& m_files;
+    QString m_path;
+};
+
+// Runs the engine to its end, publishing savegames meanwhile.
+int Play(const QString& program, const EnginePlan& plan, const QString& root, EngineSavegames& savegames,
+         Report& report, bool reportWritten)
+{
+    QProcess engine;
+    engine.setWorkingDirectory(root);
+    engine.setInputChannelMode(QProcess::ForwardedInputChannel);
+    // Into a file rather than a pipe, which would break under an engine that outlives this program.
+    if (reportWritten) {
+        engine.setProcessChannelMode(QProcess::MergedChannels);
+        engine.setStandardOutputFile(report.path(), QIODevice::Append);
+    } else {
+        engine.setProcessChannelMode(QProcess::ForwardedChannels);
+    }
+    engine.start(program, plan.arguments);
+    if (!engine.waitForStarted(-1)) {
+        const QString message = u"%1 could not be started: %2"_s.arg(program, engine.errorString());
+        report.append(u"Failed: "_s + message);
+        Complain(message);
+        return failed;
+    }
+    while (!engine.waitForFinished(publishInterval) && engine.state() != QProcess::NotRunning)
+        savegames.publish();
+    savegames.publishAll();
+
+    if (engine.exitStatus() == QProcess::CrashExit) {
+        report.append(u"Exit status: the engine crashed"_s);
+        Complain(u"The engine crashed. What it printed stands in %1."_s.arg(report.path()));
+        return failed;
+    }
+    report.append(u"Exit status: %1"_s.arg(engine.exitCode()));
+    return engine.exitCode();
+}
+
+} // namespace
+
+int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& arguments,
+                     const QProcessEnvironment& environment)
+{
+    Report report(files, root);
+    QStringList lines{u"Given: "_s + AsLine(arguments)};
+    try {
+        const QString program = FindEngine(environment);
+        const KnownEngine& conventions = ConventionsOf(program);
+        const EnginePlan plan =
+            TranslateCommandLine(files, {root, arguments, environment, conventions, MapsOf});
+        lines += u"Started: "_s + AsLine(QStringList{program} + plan.arguments);
+        for (const QString& leftOut : plan.leftOut)
+            lines += u"Left out: "_s + leftOut;
+
+        files.createFolder(plan.saveFolder);
+        const QString saveFolder = files.actualPath(plan.saveFolder);
+        // A second game may run in the same folder: the one that came first tidies up.
+        QLockFile lock(saveFolder + u"/Keldrax.lock"_s);
+        lock.setStaleLockTime(0);
+        const bool first = lock.tryLock(0);
+        EngineSavegames savegames(files, saveFolder, conventions.savegame.toString());
+        if (first)
+            savegames.present();
+
+        const bool reportWritten = report.rewrite(lines);
+        const int status = Play(program, plan, root, savegames, report, reportWritten);
+        if (first)
+            savegames.removePublished();
+        for (const QString& problem : savegames.problems()) {
+            report.append(problem);
+            Complain(problem);
+        }
+        return status;
+    } catch (const std::runtime_error& failure) { // EngineFailure or FileError
+        const QString message = QString::fromUtf8(failure.what());
+        lines += u"Failed: "_s + message;
+        Complain(message);
+    }
+    report.rewrite(lines);
+    return failed;
+}

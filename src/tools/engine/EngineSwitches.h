@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QStringView>
+
+// The switches that the launcher writes on the engine's command line.
+
+// What follows a switch.
+enum class SwitchValues {
+    None,
+    One,
+    Number, // one number, handed on without leading zeros
+    Map,    // the number of a map, or of an episode and a map
+    Many    // everything up to the next switch
+};
+
+// What becomes of a switch.
+enum class SwitchUse {
+    LeaveOut,   // nothing of it in other engines
+    Pass,       // handed on, with its values, as `engineText`
+    NamedIwad,  // names one of the commercial games' IWADs
+    IwadFile,   // -iwad
+    GameFolder, // -udir
+    GameFiles,  // -f
+    Patches,    // -deh
+    ExtraFiles  // -file: typed by the player, loaded after the game's own files
+};
+
+struct EngineSwitch
+{
+    QStringView text; // compared without regard to case
+    SwitchUse use;
+    SwitchValues values;
+    QStringView engineText; // Pass: the switch that Doom engines share; NamedIwad: the IWAD's file name
+};
+
+// The row of `argument`; nullptr when it is no switch of the launcher's.
+const EngineSwitch* FindEngineSwitch(QStringView argument);

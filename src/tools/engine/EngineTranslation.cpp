@@ -1,0 +1,212 @@
+#include "tools/engine/EngineTranslation.h"
+
+#include "platform/Paths.h"
+#include "tools/engine/EngineFailure.h"
+#include "tools/engine/EngineSwitches.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the command line asks for, in the launcher's terms.
+struct Wishes
+{
+    QString iwadName; // of an IWAD in a standard place
+    QString iwadFile; // or one that is named itself
+    QString game;
+    QStringList gameFiles, patches, extraFiles;
+    QStringList passed; // for the engine as it stands
+    QStringList leftOut;
+    bool hasGame = false;
+};
+
+bool IsNumber(const QString& text)
+{
+    constexpr qsizetype mostDigits = 4;
+    return !text.isEmpty() && text.size() <= mostDigits &&
+           std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+bool IsSwitch(const QString& text)
+{
+    return text.startsWith(u'-') && !IsNumber(text.sliced(1));
+}
+
+// The values of a switch from `at` on; steps over them.
+QStringList TakeValues(SwitchValues kind, const QStringList& arguments, qsizetype& at)
+{
+    QStringList values;
+    const auto next = [&] { return at < arguments.size() ? arguments[at] : QString(); };
+    const auto take = [&] { values += arguments[at++]; };
+    switch (kind) {
+    case SwitchValues::None:
+        break;
+    case SwitchValues::One:
+        if (at < arguments.size() && !IsSwitch(next()))
+            take();
+        break;
+    case SwitchValues::Number:
+        if (IsNumber(next()))
+            take();
+        break;
+    case SwitchValues::Map:
+        if (IsNumber(next()))
+            take();
+        if (!values.isEmpty() && values[0].size() == 1 && IsNumber(next()) && next().size() == 1)
+            take();
+        break;
+    case SwitchValues::Many:
+        while (at < arguments.size() && !next().startsWith(u'-'))
+            take();
+        break;
+    }
+    return values;
+}
+
+bool IsNumeric(SwitchValues kind)
+{
+    return kind == SwitchValues::Number || kind == SwitchValues::Map;
+}
+
+void Pass(Wishes& wishes, const EngineSwitch& row, const QStringList& values)
+{
+    wishes.passed += row.engineText.toString();
+    for (const QString& value : values)
+        wishes.passed += IsNumeric(row.values) ? QString::number(value.toInt()) : value;
+}
+
+Wishes Read(const QStringList& arguments)
+{
+    Wishes wishes;
+    for (qsizetype at = 0; at < arguments.size();) {
+        const QString& text = arguments[at++];
+        const EngineSwitch* row = FindEngineSwitch(text);
+        if (row == nullptr) {
+            wishes.passed += text;
+            continue;
+        }
+        const QStringList values = TakeValues(row->values, arguments, at);
+        const bool incomplete = row->values != SwitchValues::None && values.isEmpty();
+        switch (incomplete ? SwitchUse::LeaveOut : row->use) {
+        case SwitchUse::LeaveOut:
+            wishes.leftOut += AsLine(QStringList{text} + values);
+            break;
+        case SwitchUse::Pass:
+            Pass(wishes, *row, values);
+            break;
+        case SwitchUse::NamedIwad:
+            wishes.iwadName = row->engineText.toString();
+            break;
+        case SwitchUse::IwadFile:
+            wishes.iwadFile = values[0];
+            break;
+        case SwitchUse::GameFolder:
+            wishes.game = values[0];
+            wishes.hasGame = true;
+            break;
+        case SwitchUse::GameFiles:
+            wishes.gameFiles += values;
+            break;
+        case SwitchUse::Patches:
+            wishes.patches += values;
+            break;
+        case SwitchUse::ExtraFiles:
+            wishes.extraFiles += values;
+            break;
+        }
+    }
+    return wishes;
+}
+
+QString IwadOf(const FileSystem& files, const EngineRequest& request, const Wishes& wishes)
+{
+    if (!wishes.iwadFile.isEmpty())
+        return FindNamedFile(files, request.root, {}, wishes.iwadFile);
+    if (!wishes.iwadName.isEmpty())
+        return FindIwad(files, request.root, request.environment, wishes.iwadName);
+    throw EngineFailure(u"No IWAD is named: -Doom, -Doom2, -Tnt, -Plutonia, -Doom1 or -iwad and a file."_s);
+}
+
+QStringList NamedFiles(const FileSystem& files, const QString& root, const QString& folder,
+                       const QStringList& names)
+{
+    QStringList paths;
+    for (const QString& name : names)
+        paths += FindNamedFile(files, root, folder, name);
+    return paths;
+}
+
+struct LoadedFiles
+{
+    QStringList wads; // the main WAD first
+    QStringList patches;
+};
+
+LoadedFiles FilesOf(const FileSystem& files, const EngineRequest& request, const Wishes& wishes)
+{
+    const GameFolder game =
+        wishes.hasGame ? FindGameFolder(files, request.root, wishes.game) : GameFolder{{}, false};
+    LoadedFiles loaded{NamedFiles(files, request.root, game.path, wishes.gameFiles),
+                       NamedFiles(files, request.root, game.path, wishes.patches)};
+    if (!wishes.hasGame)
+        return loaded;
+    if (loaded.wads.isEmpty() || game.autoLoading)
+        loaded.wads += WadsOf(files, game.path, request.countMaps);
+    loaded.patches += PatchesOf(files, game.path);
+    loaded.wads.removeDuplicates();
+    loaded.patches.removeDuplicates();
+    if (loaded.wads.isEmpty())
+        throw EngineFailure(u"The game \"%1\" has no WAD in %2."_s.arg(wishes.game, game.path));
+    return loaded;
+}
+
+// The launcher looks for savegames under the main WAD's name, or else the IWAD's in lower case.
+QString SaveFolder(const FileSystem& files, const QString& root, const QString& iwad, const QStringList& wads)
+{
+    const QString key = wads.isEmpty() ? BaseNameOf(iwad).toLower() : BaseNameOf(wads.first());
+    if (key.isEmpty() || key == u"."_s || key == u".."_s)
+        throw EngineFailure(u"No savegame folder can be named after %1."_s.arg(wads.value(0, iwad)));
+    const QString folder = root + u"/UserSG/"_s + key + u"/savegame"_s;
+    const QString actual = files.actualPath(folder);
+    return actual.isEmpty() ? folder : actual;
+}
+
+QStringList Native(QStringList paths)
+{
+    std::ranges::transform(paths, paths.begin(), NativePath);
+    return paths;
+}
+
+} // namespace
+
+EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& request)
+{
+    const Wishes wishes = Read(request.arguments);
+    const QString iwad = IwadOf(files, request, wishes);
+    const LoadedFiles loaded = FilesOf(files, request, wishes);
+
+    EnginePlan plan;
+    plan.saveFolder = SaveFolder(files, request.root, iwad, loaded.wads);
+    plan.leftOut = wishes.leftOut;
+    plan.arguments = {u"-iwad"_s, NativePath(iwad)};
+    // Engines read the first -file alone, so all files stand behind one.
+    if (const QStringList all = Native(loaded.wads) + wishes.extraFiles; !all.isEmpty())
+        plan.arguments += QStringList{u"-file"_s} + all;
+    if (!loaded.patches.isEmpty())
+        plan.arguments += QStringList{u"-deh"_s} + Native(loaded.patches);
+    plan.arguments += {request.engine.saveFolderSwitch.toString(), NativePath(plan.saveFolder)};
+    plan.arguments += wishes.passed;
+    return plan;
+}
+
+QString AsLine(const QStringList& arguments)
+{
+    QStringList words;
+    for (const QString& argument : arguments) {
+        const bool plain = !argument.isEmpty() && !argument.contains(u' ');
+        words += plain ? argument : u'"' + argument + u'"';
+    }
+    return words.join(u' ');
+}

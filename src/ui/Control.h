@@ -1,0 +1,132 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+// The controls of the main window as plain data. The rules read and change them; a window, if there is
+// one, shows them. `enabled` and `visible` are a control's own, never mixed with those of its frame.
+
+enum class Colour {
+    Normal, // the palette's text or button colour
+    Accent, // (192, 0, 0)
+};
+
+struct Control
+{
+    QString caption;
+    QString text;
+    QString toolTip;
+    bool enabled = true;
+    bool visible = true;
+    Colour colour = Colour::Normal;
+};
+
+// A push button or a picture that can be clicked.
+struct Button : Control
+{
+    std::function<void()> clicked;
+};
+
+struct TextBox : Control
+{
+    // The text as a whole number; 0 when it is none.
+    int number() const { return text.trimmed().toInt(); }
+};
+
+class CheckBox : public Control
+{
+public:
+    int value() const { return m_value; } // 0 unticked, 1 ticked, 2 greyed
+    bool ticked() const { return m_value == 1; }
+
+    // Changes the value and runs `clicked`, as a user's click does. The value it already has runs nothing.
+    void setValue(int value);
+    void setTicked(bool on) { setValue(on ? 1 : 0); }
+
+    // The value that the window is built with: runs nothing.
+    void startAs(int value) { m_value = value; }
+
+    std::function<void()> clicked;
+
+private:
+    int m_value = 0;
+};
+
+// Option buttons of which one is selected.
+class OptionButtons
+{
+public:
+    explicit OptionButtons(int count, int selected = 0) : m_buttons(static_cast<size_t>(count)), m_selected(selected)
+    {
+    }
+
+    Control& operator[](int index) { return m_buttons.at(static_cast<size_t>(index)); }
+    const Control& operator[](int index) const { return m_buttons.at(static_cast<size_t>(index)); }
+    int count() const { return static_cast<int>(m_buttons.size()); }
+    int selected() const { return m_selected; }
+
+    // Selects a button and runs `clicked` with its index; the selected one, or an index outside the
+    // array, runs nothing.
+    void select(int index);
+
+    // A user's click, which also counts on the selected button.
+    void click(int index);
+
+    // The selection that the window is built with, or one whose handler runs elsewhere: runs nothing.
+    void startAs(int index) { m_selected = index; }
+
+    std::function<void(int)> clicked;
+
+private:
+    std::vector<Control> m_buttons;
+    int m_selected;
+};
+
+// A list box or a drop-down list, with at most one selected entry.
+class ListBox : public Control
+{
+public:
+    enum class Order { AsAdded, Sorted };
+
+    explicit ListBox(Order order = Order::AsAdded) : m_order(order) {}
+
+    const QStringList& entries() const { return m_entries; }
+    bool isEmpty() const { return m_entries.isEmpty(); }
+    int count() const { return static_cast<int>(m_entries.size()); }
+    QString entry(int index) const { return m_entries.value(index); } // empty outside the list
+    int selected() const { return m_selected; } // -1 when none is
+    QString selectedText() const { return m_entries.value(m_selected); } // empty when none is
+
+    void add(const QString& entry);
+    void clear(); // also the selection; runs nothing
+    void removeLast();
+
+    // The first entry equal to `name` without regard to case; -1 when there is none.
+    int find(const QString& name) const;
+
+    // Selects an entry and runs `clicked`; the selected one, or an index outside the list, runs nothing.
+    void select(int index);
+
+    // A user's click, which also counts on the selected entry.
+    void click(int index);
+
+    // Selects nothing, or an entry whose handler must not run; runs nothing.
+    void deselect() { m_selected = -1; }
+    void startAs(int index) { m_selected = index; }
+
+    // A drop-down list's text: the selected entry's, else the text set last.
+    QString currentText() const { return m_selected >= 0 ? selectedText() : text; }
+
+    // Selects the entry equal to `value`, or shows it as a text that no entry has.
+    void setCurrentText(const QString& value);
+
+    std::function<void()> clicked; // the selection changed, by the user or by a rule
+    std::function<void()> chosen; // the user clicked an entry, after `clicked`
+
+private:
+    QStringList m_entries;
+    int m_selected = -1;
+    Order m_order;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+// The message-box styles, combined by addition, and the results.
+namespace Msg {
+constexpr int Ok = 0;
+constexpr int OkCancel = 1;
+constexpr int YesNoCancel = 3;
+constexpr int YesNo = 4;
+constexpr int Critical = 16;
+constexpr int Question = 32;
+constexpr int Exclamation = 48;
+constexpr int Information = 64;
+constexpr int SecondButton = 256; // the second button is the default
+constexpr int SystemModal = 4096;
+
+constexpr int ResultOk = 1;
+constexpr int ResultCancel = 2;
+constexpr int ResultYes = 6;
+constexpr int ResultNo = 7;
+} // namespace Msg
+
+struct FileQuestion
+{
+    QString title;
+    QString filter; // what the files are called
+    QString pattern; // "*.wad"
+    QString folder; // where to start, with '/'
+};
+
+// What the launcher asks the player. A window shows dialogs; a console program and the tests answer.
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+
+    // Shows a modal message box, centred over the main window, and returns the button: one of the
+    // results above. Closing the box counts as Cancel, as No, or as OK where there is no other button.
+    virtual int MsgboxPos(const QString& text, int style, const QString& title) = 0;
+
+    // The path of the existing file that the player chose, with '/'; empty when cancelled.
+    virtual QString chooseFile(const FileQuestion& question) = 0;
+
+    // Opens a file (path with '/') or a web address with the system's program for it. Returns false when
+    // there is none.
+    virtual bool openWithShell(const QString& target) = 0;
+};

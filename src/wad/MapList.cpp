@@ -1,0 +1,44 @@
+#include "wad/MapList.h"
+
+#include "catalogue/GameRecords.h"
+#include "options/Skills.h"
+#include "wad/MainWad.h"
+
+namespace {
+
+void mapClicked(Launcher& launcher)
+{
+    launcher.launch.SaveSlot.clear();
+    launcher.launch.StartChoice = StartChoice::ChosenMap;
+    launcher.controls.SaveGameList.deselect();
+    ListBox& maps = launcher.controls.MapList;
+    if (maps.entry(maps.count() - 1).isEmpty())
+        maps.removeLast();
+    UpdateWarp(launcher);
+}
+
+void mapPicked(Launcher& launcher)
+{
+    if (launcher.settings.RememberLastMap) {
+        SaveLastMap(launcher, SelectedRecordName(launcher));
+        if (launcher.settings.RememberLastSavegame)
+            ForgetLastSavegame(launcher);
+    }
+    RestoreRememberedSkill(launcher);
+}
+
+} // namespace
+
+void ConnectMapList(Launcher& launcher)
+{
+    launcher.controls.MapList.clicked = [&launcher] { mapClicked(launcher); };
+    launcher.controls.MapList.chosen = [&launcher] { mapPicked(launcher); };
+}
+
+void SelectStartMap(Launcher& launcher)
+{
+    if (launcher.settings.RememberLastMap)
+        RestoreLastMap(launcher, SelectedRecordName(launcher));
+    else
+        launcher.controls.MapList.select(0);
+}

@@ -1,0 +1,111 @@
+#include "wad/ToolBridge.h"
+
+#include "platform/Paths.h"
+#include "platform/Text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString checkWad = u"VYKgfiles CHECKWAD "_s;
+const QString getSaveHeaders = u"VYKgfiles GETSAVEHDRS "_s;
+
+constexpr int firstNamedSection = 2;
+constexpr const char16_t* sectionFields[] = {u"Check2", u"Check3", u"Check4", u"Check5", u"Check6", u"Check7"};
+
+constexpr int headerFields = 3;
+constexpr int mapNameLength = 5;
+constexpr int countPosition = 16; // characters 17 and 18
+
+// The section that a field starts; 0 when it starts none.
+int sectionStartedBy(const QString& field)
+{
+    for (size_t i = 0; i < std::size(sectionFields); ++i)
+        if (field.startsWith(QString::fromUtf16(sectionFields[i]), Qt::CaseInsensitive))
+            return firstNamedSection + static_cast<int>(i);
+    return 0;
+}
+
+// The last report stays on disk for the player to look at; a disk that takes no file loses nothing else.
+void keepReport(Launcher& launcher, const QString& report)
+{
+    try {
+        launcher.files.write(launcher.paths.LaunchDataPath + u"pwad.vyk"_s, ToAnsi(report + u"\r\n"_s));
+    } catch (const FileError&) {
+    }
+}
+
+// What the tool prints; a tool that cannot be started gives a message and an empty report.
+QString runTool(Launcher& launcher, const QString& operation, const QString& path)
+{
+    if (path.contains(u'"'))
+        return {}; // no command line can carry the name
+    const QString commandLine = operation + u'"' + NativePath(path) + u'"';
+    const Captured captured
+        = launcher.processes.capture(commandLine, launcher.paths.RootPath + u"/Bin"_s);
+    if (!captured.started) {
+        launcher.prompts.MsgboxPos(u"CreateProcess failed. Error: "_s + captured.error, Msg::Ok, QString());
+        return {};
+    }
+    return FromAnsi(captured.output);
+}
+
+} // namespace
+
+int CountWadMaps(Launcher& launcher, const QString& path)
+{
+    const QString report = runTool(launcher, checkWad, path);
+    keepReport(launcher, report);
+    const QString count = report.mid(countPosition, 2);
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    if (count.size() == 2 && isDigit(count.at(1)))
+        return (u"1"_s + count).toInt();
+    const bool oneDigit = !count.isEmpty() && isDigit(count.at(0));
+    return (u"10"_s + (oneDigit ? count.left(1) : QString())).toInt();
+}
+
+void ListWadMaps(Launcher& launcher, const QString& path)
+{
+    const QString report = runTool(launcher, checkWad, path);
+    if (report.isEmpty())
+        return;
+    keepReport(launcher, report);
+    ListBox& maps = launcher.controls.MapList;
+    maps.clear();
+    const QStringList fields = FieldsOf(report);
+    for (qsizetype i = headerFields; i < fields.size(); ++i)
+        maps.add(fields.at(i).left(mapNameLength).trimmed());
+}
+
+void ListSavegameHeaders(Launcher& launcher, const QString& folder)
+{
+    ListBox& list = launcher.controls.SaveGameList;
+    list.clear();
+    const QString report = runTool(launcher, getSaveHeaders, folder);
+    if (report.isEmpty())
+        return;
+    keepReport(launcher, report);
+    for (const QString& field : FieldsOf(report))
+        if (field.size() > 1)
+            list.add(field.left(1) + u" - "_s + field.mid(1));
+}
+
+int CheckPwad(const FileSystem& files, const InstallationPaths& paths, const QString& path)
+{
+    const QString list = paths.LaunchDataPath + u"checkpwad.vyk"_s;
+    if (!files.fileExists(list))
+        return 0;
+    try {
+        const QString name = FileNameOf(path);
+        int section = 1;
+        for (const QString& field : FieldsOf(FromAnsi(files.read(list)))) {
+            if (SameName(field, name))
+                return section;
+            if (const int started = sectionStartedBy(field))
+                section = started;
+        }
+    } catch (const FileError&) {
+        // An unreadable list means that no WAD needs special treatment.
+    }
+    return 0;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "app/Launcher.h"
+
+// The game-file tool: the launcher opens no WAD and no savegame itself. A tool that cannot be started
+// gives a message and counts as an empty report.
+
+// Orders WADs by their number of maps: 100 plus that number; 10 without a report.
+int CountWadMaps(Launcher& launcher, const QString& path);
+
+// Fills MapList with the map names of a WAD, in the order of its directory. An empty report leaves the
+// list as it is.
+void ListWadMaps(Launcher& launcher, const QString& path);
+
+// Fills SaveGameList with "<slot> - <description>" for each savegame of a folder that has a description.
+void ListSavegameHeaders(Launcher& launcher, const QString& folder);
+
+// The section (1 to 7) of checkpwad.vyk that names the file of `path` first; 0 when none does.
+int CheckPwad(const FileSystem& files, const InstallationPaths& paths, const QString& path);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/MainWindowHost.h"
+
+#include <QStringList>
+#include <functional>
+
+// A main window that records what is asked of it.
+class FakeWindow : public MainWindowHost
+{
+public:
+    QSize screenSize() const override { return screen; }
+    QSize size() const override { return ownSize; }
+    QPoint position() const override { return topLeft; }
+    void moveTo(QPoint to) override { topLeft = to; }
+    bool isInNormalState() const override { return normal; }
+    bool isShown() const override { return shown; }
+    void show() override { record(u"show"), shown = true; }
+    void hide() override { record(u"hide"), shown = false; }
+    void minimise() override { record(u"minimise"), normal = false; }
+    void bringToFront() override { record(u"bringToFront"), shown = normal = true; }
+    void refresh() override {}
+    void showIwadForm() override
+    {
+        record(u"showIwadForm");
+        if (onIwadForm)
+            onIwadForm();
+    }
+    void endProgram() override { record(u"endProgram"); }
+
+    QSize screen{1920, 1080};
+    QSize ownSize{940, 620};
+    QPoint topLeft;
+    bool normal = true;
+    bool shown = false;
+    QStringList calls;
+    std::function<void()> onIwadForm; // what the player does in the dialog
+
+private:
+    void record(QStringView call) { calls << call.toString(); }
+};

@@ -1,0 +1,103 @@
+#include "tests/support/TemporaryInstallation.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+#include <algorithm>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void Require(bool done, const QString& path)
+{
+    if (!done)
+        throw std::runtime_error("temporary installation: " + path.toStdString());
+}
+
+QByteArray LittleEndian(qsizetype number)
+{
+    QByteArray bytes(4, 0);
+    qToLittleEndian(static_cast<qint32>(number), bytes.data());
+    return bytes;
+}
+
+} // namespace
+
+TemporaryInstallation::TemporaryInstallation()
+{
+    Require(m_folder.isValid(), m_folder.path());
+}
+
+void TemporaryInstallation::add(const QString& relativePath, const QByteArray& bytes)
+{
+    QFile file(path(relativePath));
+    addFolder(QFileInfo(relativePath).path());
+    Require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush(),
+            relativePath);
+}
+
+void TemporaryInstallation::addProgram(const QString& relativePath, const QByteArray& bytes)
+{
+    add(relativePath, bytes);
+    QFile file(path(relativePath));
+    Require(file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther),
+            relativePath);
+}
+
+void TemporaryInstallation::addFolder(const QString& relativePath)
+{
+    Require(QDir(root()).mkpath(relativePath), relativePath);
+}
+
+QByteArray TemporaryInstallation::read(const QString& relativePath) const
+{
+    QFile file(path(relativePath));
+    Require(file.open(QIODevice::ReadOnly), relativePath);
+    return file.readAll();
+}
+
+bool TemporaryInstallation::exists(const QString& relativePath) const
+{
+    return QFileInfo::exists(path(relativePath));
+}
+
+QStringList TemporaryInstallation::tree() const
+{
+    QStringList paths;
+    const QDir top(root());
+    QDirIterator entries(root(), QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (entries.hasNext())
+        paths += top.relativeFilePath(entries.next());
+    std::ranges::sort(paths);
+    return paths;
+}
+
+void TemporaryInstallation::makeComplete()
+{
+    for (const QString& program : {u"Bin/Keldrax"_s, u"Bin/VYKgFiles"_s})
+        addProgram(program);
+    for (const QString& library : {u"Bin/unzip32.dll"_s, u"Bin/fmodex.dll"_s})
+        add(library);
+    for (const QString& folder : {u"Data"_s, u"VYKLaunch/Data"_s})
+        addFolder(folder);
+}
+
+QByteArray TemporaryInstallation::wad(const QByteArray& type, const QStringList& lumpNames)
+{
+    constexpr qsizetype headerSize = 12;
+    constexpr qsizetype nameSize = 8;
+    const QByteArray lump = "lump";
+    QByteArray lumps;
+    QByteArray directory;
+    for (const QString& name : lumpNames) {
+        directory += LittleEndian(headerSize + lumps.size()) + LittleEndian(lump.size()) +
+                     name.toLatin1().leftJustified(nameSize, '\0', true);
+        lumps += lump;
+    }
+    return type + LittleEndian(lumpNames.size()) + LittleEndian(headerSize + lumps.size()) + lumps +
+           directory;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// A folder of its own for one test, gone with this object. Paths are relative to root(), with '/'. What
+// cannot be done on the disk throws std::runtime_error.
+class TemporaryInstallation
+{
+public:
+    TemporaryInstallation();
+
+    QString root() const { return m_folder.path(); }
+    QString path(const QString& relativePath) const { return m_folder.filePath(relativePath); }
+
+    // Writes the file, with the folders that it needs.
+    void add(const QString& relativePath, const QByteArray& bytes = {});
+    // The same, for a file that can be started.
+    void addProgram(const QString& relativePath, const QByteArray& bytes = {});
+    void addFolder(const QString& relativePath);
+
+    // The spelling counts in both.
+    QByteArray read(const QString& relativePath) const;
+    bool exists(const QString& relativePath) const;
+
+    // The relative paths of all files, hidden ones too, in the order of their characters' numbers.
+    QStringList tree() const;
+
+    // Adds what start-up asks for: the programs and libraries of Bin (empty), Data and VYKLaunch/Data.
+    void makeComplete();
+
+    // A WAD of `type` ("IWAD" or "PWAD") with one lump of some bytes for each name (8 bytes at most).
+    static QByteArray wad(const QByteArray& type, const QStringList& lumpNames);
+
+private:
+    QTemporaryDir m_folder;
+};
