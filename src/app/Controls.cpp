@@ -146,6 +146,7 @@ Controls::Controls()
         {butMusic[2], u"Delete"_s, Shown},
         {AuxButton[2], QString(), Hidden},
         {AuxButton[3], QString(), Hidden},
+        {AuxButton[5], u"IWADs"_s, Shown},
         {AuxButton[7], QString(), Hidden},
         {AuxButton[8], QString(), Hidden},
         {AuxButton[9], QString(), Hidden},
@@ -180,11 +181,13 @@ Controls::Controls()
     SkillsLevel[0].startAs(0);
     SkillsLevel[1].startAs(0);
 
+    LaunchButton.colour = Colour::Accent;
     MapList.toolTip = u"  Select map for startup.  "_s;
     SaveGameList.toolTip = u"  Right click on savegame for tasks menu.  "_s;
     Home[0].toolTip = u"  Keldrax Website.  "_s;
     Home[3].toolTip = u"  Keldrax model pack downloads.  "_s;
     TitlePic.toolTip = u"  Double click to cycle through themes.  "_s;
     ImageCM.toolTip = u" Toggle Keldrax scripted maps if installed. "_s;
+    AuxButton[5].toolTip = u"Iwad locations used by Keldrax."_s;
     ExpLabel.toolTip = u" Time it takes for grenade to explode in tics "_s;
 }

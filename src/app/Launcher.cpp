@@ -1,6 +1,9 @@
 #include "app/Launcher.h"
 
 #include "app/SettingsFile.h"
+#include "app/Themes.h"
+#include "app/Toolbar.h"
+#include "app/WebLinks.h"
 #include "catalogue/GameLists.h"
 #include "launch/LaunchButton.h"
 #include "options/DisplayMode.h"
@@ -14,6 +17,9 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     : files(disk), processes(programs), prompts(questions), window(host), paths(rootPath),
       environment(IwadEnvironment::ofProcess()), settings(DefaultSettings())
 {
+    ConnectThemes(*this);
+    ConnectWebLinks(*this);
+    ConnectToolbar(*this);
     ConnectGameLists(*this);
     ConnectMapList(*this);
     ConnectSaveGames(*this);

@@ -2,6 +2,7 @@
 
 #include "app/SettingsTable.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -36,9 +37,19 @@ bool fits(double number, LineKind kind)
     return number >= std::numeric_limits<qint16>::min() && number <= std::numeric_limits<qint16>::max();
 }
 
-QString formatted(int number)
+// What fits into the line: a number that the reader finds too large would hide all lines below.
+QString formatted(int number, LineKind kind)
 {
+    using Short = std::numeric_limits<qint16>;
+    if (kind != LineKind::LongNumber)
+        number = std::clamp<int>(number, Short::min(), Short::max());
     return (number < 0 ? QString() : u" "_s) + QString::number(number) + u" "_s;
+}
+
+// A line end in a pasted text or in a folder's name would shift all lines below.
+QString inOneLine(QString text)
+{
+    return text.replace(u'\r', u' ').replace(u'\n', u' ');
 }
 
 } // namespace
@@ -86,11 +97,11 @@ QStringList SettingsLines(const Settings& settings, bool withPosition)
     QStringList lines;
     for (const SettingRow& row : rowsOfFile(withPosition)) {
         if (const auto* text = std::get_if<QString Settings::*>(&row.member))
-            lines << settings.**text;
+            lines << inOneLine(settings.**text);
         else if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
-            lines << formatted(settings.**flag ? 1 : 0);
+            lines << formatted(settings.**flag ? 1 : 0, row.kind);
         else
-            lines << formatted(settings.*std::get<int Settings::*>(row.member));
+            lines << formatted(settings.*std::get<int Settings::*>(row.member), row.kind);
     }
     return lines;
 }

@@ -41,17 +41,10 @@ void reportCorruptConfig(Launcher& launcher)
     setDefaults(launcher);
     launcher.window.moveTo(centred(launcher.window));
     launcher.startUp.VersionUpdate = true;
-    bool setAside = true;
-    try {
-        SetConfigAside(launcher);
-    } catch (const FileError&) {
-        setAside = false; // a restart would only find the same file again
-    }
+    SetConfigAside(launcher);
     launcher.prompts.MsgboxPos(u" The Launcher has detected a configuration error, the default  \r\n"
                                " settings will be reset, please reconfigure launcher settings. "_s,
         Msg::Ok + Msg::SystemModal, u" Configuration error detected"_s);
-    if (!setAside)
-        return;
     RestartLauncher(launcher);
     ShutDownLauncher(launcher);
 }

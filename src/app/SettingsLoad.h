@@ -11,7 +11,8 @@ QString ConfigPath(const Launcher& launcher);
 void SetConfigAside(Launcher& launcher);
 
 // Sets the defaults and reads texpath.vyk, archives.vyk and config.vyk. A corrupt config.vyk is set aside
-// with a message, and the launcher restarts: afterwards ShuttingDown is set.
+// with a message, and the launcher restarts: afterwards ShuttingDown is set. Throws FileError when it cannot
+// be set aside: a restart would only find it again.
 void LoadSettings(Launcher& launcher);
 
 // Writes config.vyk whole. Throws FileError.

@@ -103,7 +103,8 @@ StartResult Main(Launcher& launcher, const QString& arguments, const StartUpServ
     try {
         return start(launcher, arguments, services);
     } catch (const FileError& error) {
-        reportStartUpError(launcher, error.kind() != FileError::Kind::Other);
+        using enum FileError::Kind;
+        reportStartUpError(launcher, error.kind() != Other && error.kind() != NotFound);
     } catch (const std::exception&) {
         reportStartUpError(launcher, false);
     }

@@ -20,8 +20,10 @@ void GetTitlePic(Launcher& launcher)
     launcher.controls.TitlePic.text = pictures.at(index);
 }
 
-void ShowNextTitlePic(Launcher& launcher)
+void ConnectThemes(Launcher& launcher)
 {
-    ++launcher.settings.TitlePicIndex;
-    GetTitlePic(launcher);
+    launcher.controls.TitlePic.clicked = [&launcher] {
+        ++launcher.settings.TitlePicIndex;
+        GetTitlePic(launcher);
+    };
 }

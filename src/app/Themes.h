@@ -8,5 +8,5 @@
 // default.jpg the title stays as it is.
 void GetTitlePic(Launcher& launcher);
 
-// A click on the picture: the next one.
-void ShowNextTitlePic(Launcher& launcher);
+// A click on the picture shows the next one.
+void ConnectThemes(Launcher& launcher);

@@ -16,10 +16,11 @@ constexpr int exitMode = 2;
 // Nothing in a command line escapes a double quote: a path that holds one would be split.
 bool canBeQuoted(const Launcher& launcher, const QString& commandLine)
 {
-    const QString custom = CustomText(launcher);
-    return commandLine.chopped(custom.size()).count(u'"') % 2 == 0
-        && !launcher.launch.SelectedIwadPath.contains(u'"') && !launcher.settings.TexturePath.contains(u'"')
-        && !launcher.settings.PlaylistName.contains(u'"');
+    const QString own = commandLine.chopped(CustomText(launcher).size());
+    const auto carries = [&own](const QString& value) { return value.contains(u'"') && own.contains(value); };
+    return own.count(u'"') % 2 == 0 && !carries(NativePath(launcher.launch.SelectedIwadPath)) &&
+           !carries(NativePath(launcher.settings.TexturePath)) &&
+           !carries(BaseNameOf(launcher.settings.PlaylistName));
 }
 
 void writeLog(Launcher& launcher, const QString& commandLine)
@@ -42,8 +43,8 @@ void PrepareLaunch(Launcher& launcher)
         launcher.settings.LastLaunchMode = mode;
     CheckGraphicsPacks(launcher);
     CheckSoundPack(launcher);
-    launcher.launch.RicochetOn
-        = launcher.controls.chkSound[2].ticked() && !launcher.controls.chkMain[0].ticked();
+    launcher.launch.RicochetOn =
+        launcher.controls.chkSound[2].ticked() && !launcher.controls.chkMain[0].ticked();
     if (!launcher.controls.chkMain[1].enabled)
         launcher.settings.HighResTextures = false;
 }
@@ -51,11 +52,11 @@ void PrepareLaunch(Launcher& launcher)
 void CheckKelspackWad(Launcher& launcher)
 {
     Settings& settings = launcher.settings;
-    if ((!settings.KelspackWeapons && !settings.KelspackAlternative) || settings.CoreEffects
-        || launcher.files.fileExists(launcher.paths.RootPath + u"/md2/Kelspack/kelspack.wad"_s))
+    if ((!settings.KelspackWeapons && !settings.KelspackAlternative) || settings.CoreEffects ||
+        launcher.files.fileExists(launcher.paths.RootPath + u"/md2/Kelspack/kelspack.wad"_s))
         return;
     launcher.prompts.MsgboxPos(u" Unable to use kelspack as the kelspack.wad was not found.  "_s,
-        Msg::Ok + Msg::Information, u" Launch error"_s);
+                               Msg::Ok + Msg::Information, u" Launch error"_s);
     settings.KelspackWeapons = settings.KelspackAlternative = false;
 }
 
@@ -88,8 +89,9 @@ LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine)
     LaunchState& launch = launcher.launch;
     const bool forShortcut = std::exchange(launch.ShortcutMode, false);
     if (!canBeQuoted(launcher, commandLine)) {
-        launcher.prompts.MsgboxPos(u"A file or folder name holds a double quote, which the engine's command line "
-                                   "cannot carry.    \r\nRename it and try again.    "_s,
+        launcher.prompts.MsgboxPos(
+            u"A file or folder name holds a double quote, which the engine's command line "
+            "cannot carry.    \r\nRename it and try again.    "_s,
             Msg::Ok + Msg::Information, u" Launch error"_s);
         launch.AfterLaunch = false;
         return LaunchResult::Refused;
@@ -107,8 +109,8 @@ LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine)
         launcher.window.minimise();
     launch.RicochetOn = false;
     if (!launcher.processes.start(commandLine, launcher.paths.RootPath)) {
-        launcher.prompts.MsgboxPos(
-            u"Cannot execute! The command line was:\r\n"_s + commandLine, Msg::Ok, QString());
+        launcher.prompts.MsgboxPos(u"Cannot execute! The command line was:\r\n"_s + commandLine, Msg::Ok,
+                                   QString());
         launch.AfterLaunch = false;
         launcher.window.bringToFront();
         return LaunchResult::Refused;

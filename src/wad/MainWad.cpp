@@ -4,8 +4,6 @@
 #include "wad/GameFiles.h"
 #include "wad/ToolBridge.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 void ChooseMainWad(Launcher& launcher, const QString& folder)
@@ -19,14 +17,12 @@ void ChooseMainWad(Launcher& launcher, const QString& folder)
     if (!wads.isEmpty())
         selection.SelectedGameFile = folder + wads.last();
     if (wads.size() > 1) {
-        QStringList grabbed;
-        for (const QString& name : wads)
-            if (const int key = CountWadMaps(launcher, folder + name); key > 0)
-                grabbed << QString::number(key) + folder + name;
-        grabbed.sort(Qt::CaseInsensitive);
-        constexpr int keyLength = 3;
-        if (!grabbed.isEmpty())
-            selection.SelectedGameFile = grabbed.last().mid(keyLength);
+        int most = 0;
+        for (const QString& name : wads) // ascending: of equals the last stays
+            if (const int key = CountWadMaps(launcher, folder + name); key >= most) {
+                most = key;
+                selection.SelectedGameFile = folder + name;
+            }
     }
 
     ListBox& shown = launcher.controls.PwadShowlist;

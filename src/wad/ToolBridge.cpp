@@ -3,6 +3,8 @@
 #include "platform/Paths.h"
 #include "platform/Text.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -11,7 +13,8 @@ const QString checkWad = u"VYKgfiles CHECKWAD "_s;
 const QString getSaveHeaders = u"VYKgfiles GETSAVEHDRS "_s;
 
 constexpr int firstNamedSection = 2;
-constexpr const char16_t* sectionFields[] = {u"Check2", u"Check3", u"Check4", u"Check5", u"Check6", u"Check7"};
+constexpr const char16_t* sectionFields[] = {u"Check2", u"Check3", u"Check4",
+                                             u"Check5", u"Check6", u"Check7"};
 
 constexpr int headerFields = 3;
 constexpr int mapNameLength = 5;
@@ -41,8 +44,7 @@ QString runTool(Launcher& launcher, const QString& operation, const QString& pat
     if (path.contains(u'"'))
         return {}; // no command line can carry the name
     const QString commandLine = operation + u'"' + NativePath(path) + u'"';
-    const Captured captured
-        = launcher.processes.capture(commandLine, launcher.paths.RootPath + u"/Bin"_s);
+    const Captured captured = launcher.processes.capture(commandLine, launcher.paths.RootPath + u"/Bin"_s);
     if (!captured.started) {
         launcher.prompts.MsgboxPos(u"CreateProcess failed. Error: "_s + captured.error, Msg::Ok, QString());
         return {};
@@ -58,10 +60,10 @@ int CountWadMaps(Launcher& launcher, const QString& path)
     keepReport(launcher, report);
     const QString count = report.mid(countPosition, 2);
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    if (count.size() == 2 && isDigit(count.at(1)))
-        return (u"1"_s + count).toInt();
-    const bool oneDigit = !count.isEmpty() && isDigit(count.at(0));
-    return (u"10"_s + (oneDigit ? count.left(1) : QString())).toInt();
+    const bool twoDigits = count.size() == 2 && isDigit(count.at(1));
+    QString key = twoDigits ? u"1"_s + count : u"10"_s + count.left(1);
+    key.remove(u' '); // the number ends at what is neither digit nor blank
+    return key.first(std::ranges::find_if_not(key, isDigit) - key.cbegin()).toInt();
 }
 
 void ListWadMaps(Launcher& launcher, const QString& path)

@@ -90,8 +90,8 @@ int Play(const QString& program, const EnginePlan& plan, const QString& root, En
     savegames.publishAll();
 
     if (engine.exitStatus() == QProcess::CrashExit) {
-        report.append(u"Exit status: the engine crashed"_s);
-        Complain(u"The engine crashed. What it printed stands in %1."_s.arg(report.path()));
+        report.append(u"Exit status: none, the engine crashed or was ended"_s);
+        Complain(u"The engine crashed or was ended. What it printed stands in %1."_s.arg(report.path()));
         return failed;
     }
     report.append(u"Exit status: %1"_s.arg(engine.exitCode()));

@@ -21,7 +21,7 @@ QString EngineSavegames::publishedFile(int slot) const
 template <typename Action>
 void EngineSavegames::forEachSlot(Action action)
 {
-    for (int slot = 0; slot < slots; ++slot) {
+    for (int slot = 0; slot < slotCount; ++slot) {
         try {
             action(slot);
         } catch (const FileError& error) {

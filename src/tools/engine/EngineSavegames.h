@@ -33,7 +33,7 @@ public:
     const QStringList& problems() const { return m_problems; }
 
 private:
-    static constexpr int slots = 10;
+    static constexpr int slotCount = 10;
 
     QString engineFile(int slot) const;
     QString publishedFile(int slot) const;
@@ -45,6 +45,6 @@ private:
     FileSystem& m_files;
     QString m_folder;
     QString m_engineName;
-    std::array<QDateTime, slots> m_seen; // the engine's files as they were last copied
+    std::array<QDateTime, slotCount> m_seen; // the engine's files as they were last copied
     QStringList m_problems;
 };

@@ -1,0 +1,81 @@
+#include "app/HeaderBar.h"
+
+#include "ui/TitleView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A link over the dark end of the title picture.
+QPushButton* link(ControlBinder& binder, Button& control, const QString& name)
+{
+    auto* button = new QPushButton;
+    button->setFlat(true);
+    button->setCursor(Qt::PointingHandCursor);
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::ButtonText, QColor(255, 228, 216));
+    button->setPalette(palette);
+    binder.bind(name, control, button);
+    return button;
+}
+
+} // namespace
+
+HeaderBar::HeaderBar(Controls& controls, ControlBinder& binder, QWidget* parent) : QWidget(parent)
+{
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(8);
+    rows->addWidget(titlePicture(controls, binder));
+    rows->addWidget(toolsAndTabs(controls, binder));
+}
+
+QWidget* HeaderBar::titlePicture(Controls& controls, ControlBinder& binder)
+{
+    auto* picture = new TitleView;
+    picture->setAccessibleName(u"Title picture"_s);
+    auto* links = new QVBoxLayout(picture);
+    links->setContentsMargins(0, 12, 16, 12);
+    links->addStretch();
+    links->addWidget(link(binder, controls.Home[0], u"Home_0"_s), 0, Qt::AlignRight);
+    links->addWidget(link(binder, controls.Home[3], u"Home_3"_s), 0, Qt::AlignRight);
+    links->addStretch();
+
+    Button& title = controls.TitlePic;
+    binder.bind(u"TitlePic"_s, title, picture, [picture, &title](const QString&) { picture->showPicture(title.text); });
+    connect(picture, &TitleView::clicked, this, [&binder, &title] { binder.run(title.clicked); });
+    return picture;
+}
+
+QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
+{
+    auto* bar = new QWidget;
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(12, 0, 12, 0);
+    row->setSpacing(4);
+
+    constexpr int iwadLocations = 5;
+    auto* iwads = new QPushButton;
+    binder.bind(NameOf(u"AuxButton"_s, iwadLocations), controls.AuxButton[iwadLocations], iwads);
+    row->addWidget(iwads);
+
+    auto* wine = new QLabel;
+    binder.bind(u"WineImage"_s, controls.WineImage, wine);
+    row->addWidget(wine);
+    row->addStretch();
+
+    QList<QAbstractButton*> tabs;
+    for (int i = 0; i < controls.OptionTabs.count(); ++i) {
+        auto* tab = new QPushButton;
+        tab->setCheckable(true);
+        tab->setMinimumWidth(96);
+        tabs << tab;
+        row->addWidget(tab);
+    }
+    binder.bind(u"OptionTabs"_s, controls.OptionTabs, tabs);
+    return bar;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/Controls.h"
+#include "ui/ControlBinder.h"
+
+#include <QWidget>
+
+class QBoxLayout;
+
+// The strip below the tabs: how to play, the command panel, and the Launch button.
+class StripBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    StripBar(Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
+
+    // The command panel's height with the gap above it, in layout units.
+    int panelHeight() const;
+
+private:
+    QBoxLayout* playRow(Controls& controls, ControlBinder& binder);
+    QWidget* commandPanel(Controls& controls, ControlBinder& binder);
+    QBoxLayout* launchRow(Controls& controls, ControlBinder& binder);
+
+    QWidget* m_panel = nullptr;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "app/Launcher.h"
+
+// The row of tool buttons.
+void ConnectToolbar(Launcher& launcher);

@@ -1,0 +1,96 @@
+#include "catalogue/GamesPage.h"
+
+#include "ui/ListView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QVBoxLayout* newColumn()
+{
+    constexpr int underHeading = 4;
+    auto* column = new QVBoxLayout;
+    column->setSpacing(underHeading);
+    return column;
+}
+
+QLabel* heading(Controls& controls, ControlBinder& binder, int index)
+{
+    auto* label = new QLabel;
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setMinimumHeight(20);
+    binder.bind(NameOf(u"Auto"_s, index), controls.Auto[static_cast<size_t>(index)], label);
+    return label;
+}
+
+ListView* list(ControlBinder& binder, ListBox& control, const QString& objectName, const QString& accessibleName,
+    const QString& whyEmpty)
+{
+    auto* view = new ListView(whyEmpty);
+    view->setAccessibleName(accessibleName);
+    binder.bind(objectName, control, view);
+    return view;
+}
+
+} // namespace
+
+GamesPage::GamesPage(Controls& controls, ControlBinder& binder, QWidget* parent) : QWidget(parent)
+{
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(12);
+    columns->addLayout(gamesColumn(controls, binder), 5);
+    columns->addLayout(filesColumn(controls, binder), 4);
+    columns->addLayout(mapsColumn(controls, binder), 2);
+}
+
+QBoxLayout* GamesPage::gamesColumn(Controls& controls, ControlBinder& binder)
+{
+    auto* views = new QHBoxLayout;
+    QList<QAbstractButton*> buttons;
+    for (int i = 0; i < controls.OptionUdir.count(); ++i) {
+        buttons << new QRadioButton;
+        views->addWidget(buttons.last());
+    }
+    views->addStretch();
+    binder.bind(u"OptionUdir"_s, controls.OptionUdir, buttons);
+
+    auto* column = newColumn();
+    column->addLayout(views);
+    column->addWidget(heading(controls, binder, 0));
+    column->addWidget(list(binder, controls.PwadList, u"PwadList"_s, u"Games"_s, u"No games found"_s));
+    return column;
+}
+
+QBoxLayout* GamesPage::filesColumn(Controls& controls, ControlBinder& binder)
+{
+    ListView* files
+        = list(binder, controls.PwadShowlist, u"PwadShowlist"_s, u"Game files"_s, u"No game is selected"_s);
+    ListView* saves
+        = list(binder, controls.SaveGameList, u"SaveGameList"_s, u"Savegames"_s, u"No savegames yet"_s);
+    auto* column = newColumn();
+    column->addWidget(heading(controls, binder, 1));
+    column->addWidget(files);
+    column->addWidget(heading(controls, binder, 3));
+    column->addWidget(saves);
+    connect(&binder, &ControlBinder::written, this, [&controls, column, files, saves] {
+        const bool tall = controls.MainForm.saveGamesTall;
+        column->setStretchFactor(files, tall ? 1 : 2);
+        column->setStretchFactor(saves, tall ? 2 : 1);
+    });
+    return column;
+}
+
+QBoxLayout* GamesPage::mapsColumn(Controls& controls, ControlBinder& binder)
+{
+    auto* column = newColumn();
+    column->addWidget(heading(controls, binder, 2));
+    column->addWidget(list(binder, controls.MapList, u"MapList"_s, u"Maps"_s, u"No maps"_s));
+    return column;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "app/Controls.h"
+#include "ui/ControlBinder.h"
+
+#include <QWidget>
+
+class QBoxLayout;
+
+// The games tab: the games list with its views, the game's files and savegames, and its maps.
+class GamesPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GamesPage(Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
+
+private:
+    QBoxLayout* gamesColumn(Controls& controls, ControlBinder& binder);
+    QBoxLayout* filesColumn(Controls& controls, ControlBinder& binder);
+    QBoxLayout* mapsColumn(Controls& controls, ControlBinder& binder);
+};

@@ -1,0 +1,176 @@
+#include "ui/ControlBinder.h"
+
+#include "ui/StyleView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+
+namespace {
+
+void writeShared(const Control& control, QWidget* widget)
+{
+    // A widget of a page that is not shown keeps its own flag, so ask for it, not for what is seen.
+    if (widget->isVisibleTo(widget->parentWidget()) != control.visible)
+        widget->setVisible(control.visible);
+    if (widget->testAttribute(Qt::WA_ForceDisabled) == control.enabled)
+        widget->setEnabled(control.enabled);
+    if (widget->toolTip() != control.toolTip)
+        widget->setToolTip(control.toolTip);
+    ShowAccent(widget, control.colour == Colour::Accent);
+}
+
+void writeCaption(const Control& control, QAbstractButton* button)
+{
+    // An '&' in a caption is text, not a key.
+    const QString caption = QString(control.caption).replace(u'&', QStringLiteral("&&"));
+    if (button->text() != caption)
+        button->setText(caption);
+}
+
+void name(QWidget* widget, const QString& objectName, const QString& accessibleName)
+{
+    widget->setObjectName(objectName);
+    if (widget->accessibleName().isEmpty())
+        widget->setAccessibleName(accessibleName.trimmed().isEmpty() ? objectName : accessibleName.trimmed());
+}
+
+} // namespace
+
+QString NameOf(const QString& array, int index)
+{
+    return array + u'_' + QString::number(index);
+}
+
+void ControlBinder::bind(
+    const QString& objectName, Control& control, QWidget* widget, std::function<void(const QString&)> setCaption)
+{
+    name(widget, objectName, control.caption);
+    m_writers.emplace_back([&control, widget, setCaption = std::move(setCaption)] {
+        writeShared(control, widget);
+        if (setCaption)
+            setCaption(control.caption);
+    });
+}
+
+void ControlBinder::bind(const QString& objectName, Control& control, QLabel* label)
+{
+    label->setTextFormat(Qt::PlainText);
+    bind(objectName, control, label, [label](const QString& caption) {
+        if (label->text() != caption)
+            label->setText(caption);
+    });
+}
+
+void ControlBinder::bind(const QString& objectName, Button& control, QAbstractButton* button)
+{
+    name(button, objectName, control.caption);
+    m_writers.emplace_back([&control, button] {
+        writeShared(control, button);
+        writeCaption(control, button);
+    });
+    connect(button, &QAbstractButton::clicked, this, [this, &control] {
+        run([&control] {
+            if (control.clicked)
+                control.clicked();
+        });
+    });
+}
+
+void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox* box)
+{
+    name(box, objectName, control.caption);
+    m_writers.emplace_back([&control, box] {
+        writeShared(control, box);
+        writeCaption(control, box);
+        if (box->isChecked() != control.ticked())
+            box->setChecked(control.ticked());
+    });
+    connect(box, &QCheckBox::clicked, this,
+        [this, &control](bool on) { run([&control, on] { control.setTicked(on); }); });
+}
+
+void ControlBinder::bind(const QString& objectName, OptionButtons& control, const QList<QAbstractButton*>& buttons)
+{
+    for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
+        QAbstractButton* button = buttons.at(i);
+        name(button, NameOf(objectName, i), control[i].caption);
+        m_writers.emplace_back([&control, i, button] {
+            writeShared(control[i], button);
+            writeCaption(control[i], button);
+            if (button->isChecked() != (control.selected() == i))
+                button->setChecked(control.selected() == i);
+        });
+        connect(button, &QAbstractButton::clicked, this,
+            [this, &control, i] { run([&control, i] { control.click(i); }); });
+    }
+}
+
+void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit* edit)
+{
+    name(edit, objectName, control.caption);
+    m_writers.emplace_back([&control, edit] {
+        writeShared(control, edit);
+        if (edit->text() != control.text)
+            edit->setText(control.text);
+    });
+    connect(edit, &QLineEdit::textEdited, this,
+        [this, &control](const QString& text) { run([&control, text] { control.text = text; }); });
+}
+
+void ControlBinder::bind(const QString& objectName, ListBox& control, QListWidget* list)
+{
+    name(list, objectName, control.caption);
+    m_writers.emplace_back([&control, list, shown = QStringList()]() mutable {
+        writeShared(control, list);
+        const QSignalBlocker quiet(list);
+        if (shown != control.entries()) {
+            shown = control.entries();
+            list->clear();
+            list->addItems(shown);
+        }
+        if (list->currentRow() != control.selected())
+            list->setCurrentRow(control.selected());
+        if (QListWidgetItem* item = list->currentItem())
+            list->scrollToItem(item);
+    });
+    connect(list, &QListWidget::currentRowChanged, this, [this, &control](int row) {
+        if (row >= 0)
+            run([&control, row] { control.click(row); });
+    });
+}
+
+void ControlBinder::bind(const QString& objectName, ListBox& control, QComboBox* list)
+{
+    name(list, objectName, control.caption);
+    m_writers.emplace_back([&control, list, shown = QStringList()]() mutable {
+        writeShared(control, list);
+        if (shown != control.entries()) {
+            shown = control.entries();
+            list->clear();
+            list->addItems(shown);
+        }
+        if (list->currentIndex() != control.selected())
+            list->setCurrentIndex(control.selected());
+        if (list->placeholderText() != control.text)
+            list->setPlaceholderText(control.text);
+    });
+    connect(list, &QComboBox::activated, this,
+        [this, &control](int row) { run([&control, row] { control.click(row); }); });
+}
+
+void ControlBinder::run(const std::function<void()>& event)
+{
+    event();
+    write();
+}
+
+void ControlBinder::write()
+{
+    for (const auto& writer : m_writers)
+        writer();
+    Q_EMIT written();
+}

@@ -1,0 +1,101 @@
+#include "ui/PromptsView.h"
+
+#include "platform/Paths.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int buttonMask = 7;
+constexpr int iconMask = 0x70;
+
+QMessageBox::StandardButtons buttonsOf(int style)
+{
+    switch (style & buttonMask) {
+    case Msg::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Msg::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Msg::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon iconOf(int style)
+{
+    switch (style & iconMask) {
+    case Msg::Critical:
+        return QMessageBox::Critical;
+    case Msg::Question:
+        return QMessageBox::Question;
+    case Msg::Exclamation:
+        return QMessageBox::Warning;
+    case Msg::Information:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+int resultOf(QMessageBox::StandardButton button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return Msg::ResultYes;
+    case QMessageBox::No:
+        return Msg::ResultNo;
+    case QMessageBox::Cancel:
+        return Msg::ResultCancel;
+    default:
+        return Msg::ResultOk;
+    }
+}
+
+} // namespace
+
+int PromptsView::MsgboxPos(const QString& text, int style, const QString& title)
+{
+    QWidget* over = QApplication::activeModalWidget();
+    QMessageBox box(over ? over : m_mainWindow);
+    box.setIcon(iconOf(style));
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText); // file names are no markup
+    box.setText(QString(text).replace(u"\r\n"_s, u"\n"_s));
+    box.setStandardButtons(buttonsOf(style));
+    const QList<QAbstractButton*> buttons = box.buttons();
+    if ((style & Msg::SecondButton) && buttons.size() > 1)
+        box.setDefaultButton(box.standardButton(buttons.at(1)));
+    if ((style & buttonMask) == Msg::YesNo)
+        box.setEscapeButton(QMessageBox::No);
+
+    // Centred over the main window, not kept inside the screen.
+    box.ensurePolished();
+    box.adjustSize();
+    const QRect main = m_mainWindow->frameGeometry();
+    box.move(main.left() + (main.width() - box.width()) / 2, main.top() + (main.height() - box.height()) / 2);
+    return resultOf(static_cast<QMessageBox::StandardButton>(box.exec()));
+}
+
+QString PromptsView::chooseFile(const FileQuestion& question)
+{
+    QWidget* over = QApplication::activeModalWidget();
+    const QString filter = question.filter + u" ("_s + question.pattern + u' '
+        + question.pattern.toUpper() + u')'; // names compare without regard to case
+    return WithSlashes(
+        QFileDialog::getOpenFileName(over ? over : m_mainWindow, question.title, question.folder, filter));
+}
+
+bool PromptsView::openWithShell(const QString& target)
+{
+    const bool isAddress = target.startsWith(u"http://"_s) || target.startsWith(u"https://"_s);
+    return QDesktopServices::openUrl(isAddress ? QUrl(target) : QUrl::fromLocalFile(target));
+}

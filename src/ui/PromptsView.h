@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ui/Prompts.h"
+
+#include <QWidget>
+
+// The real dialogs, over the main window.
+class PromptsView : public Prompts
+{
+public:
+    // `mainWindow` must outlive this object.
+    explicit PromptsView(QWidget* mainWindow) : m_mainWindow(mainWindow) {}
+
+    int MsgboxPos(const QString& text, int style, const QString& title) override;
+    QString chooseFile(const FileQuestion& question) override;
+    bool openWithShell(const QString& target) override;
+
+private:
+    QWidget* m_mainWindow;
+};

@@ -1,0 +1,413 @@
+#include "app/SettingsControls.h"
+#include "app/SettingsLoad.h"
+#include "app/StartUp.h"
+#include "tests/support/LauncherFixture.h"
+
+using namespace Qt::StringLiterals;
+using Kind = FileError::Kind;
+
+namespace {
+
+const QString corruptText = u" The Launcher has detected a configuration error, the default  \r\n"
+                            " settings will be reset, please reconfigure launcher settings. "_s;
+
+// The values of the lines 2 to 81; an empty one is an empty text.
+const char* const defaults = "2|0|0|128|0|1|0|0|0|0|0|0|0|0|0|1|0|0|0|0|200||1|0|1|0|1|0|0|1|1|0|0|0|1|0|0|1|1|0|"
+                             "1|0|0|0|0|0|0|0|0|0|0|1|||||||1|0|1|0|0|1|0|0|1|0|0|0|1||9|4|2|1|1|0|1|";
+
+QStringList defaultLines()
+{
+    QStringList lines{u"v9.1"_s};
+    for (const QString& value : QString::fromLatin1(defaults).split(u'|'))
+        lines << (value.isEmpty() ? value : u' ' + value + u' ');
+    return lines;
+}
+
+QList<int> changedLines(const QStringList& before, const QStringList& after)
+{
+    QList<int> changed;
+    for (int i = 0; i < before.size(); ++i)
+        if (before.at(i) != after.value(i))
+            changed << i + 1;
+    return changed;
+}
+
+using Boxes = QList<std::pair<int, CheckBox*>>;
+
+// The check boxes by the line that stores them; "No monsters" has two lines and is not here, " Enable
+// ricochets" is stored by its handler.
+Boxes storedBoxes(Controls& c)
+{
+    return {{7, &c.chkGraphics[4]}, {8, &c.chkAltModels[2]}, {9, &c.ChkModelOpts[2]}, {10, &c.chkAltModels[1]},
+        {11, &c.ChkModelOpts[3]}, {12, &c.ChkModelOpts[1]}, {13, &c.ChkGL}, {14, &c.chkTesting},
+        {15, &c.chkSound[0]}, {16, &c.chkSound[1]}, {18, &c.chkVYKOpts[0]}, {19, &c.chkVYKOpts[8]},
+        {20, &c.chkVYKOpts[6]}, {21, &c.chkVYKOpts[7]}, {24, &c.chkLaunchPrefs[0]}, {25, &c.chkLaunchPrefs[1]},
+        {26, &c.chkAltModels[3]}, {27, &c.chkAltModels[0]}, {28, &c.chkMain[1]}, {30, &c.chkMain[7]},
+        {31, &c.chkGraphics[3]}, {32, &c.GunSmoke}, {35, &c.chkVYKOpts[2]}, {36, &c.chkSound[6]},
+        {37, &c.chkSound[4]}, {38, &c.chkSound[9]}, {39, &c.chkSound[10]}, {40, &c.chkVYKOpts[3]},
+        {41, &c.chkGraphics[2]}, {42, &c.chkEffects[1]}, {43, &c.chkVYKOpts[5]}, {44, &c.chkMain[0]},
+        {45, &c.ChkCM}, {47, &c.chkMain[2]}, {48, &c.chkMain[5]}, {49, &c.chkMain[3]}, {50, &c.chkMain[4]},
+        {51, &c.chkVYKOpts[1]}, {61, &c.chkLaunchPrefs[2]}, {62, &c.chkLaunchPrefs[5]},
+        {63, &c.chkLaunchPrefs[4]}, {64, &c.chkLaunchPrefs[3]}, {65, &c.chkEffects[0]}, {66, &c.chkEffects[3]},
+        {67, &c.chkSound[5]}, {68, &c.chkSound[7]}, {69, &c.chkAutoSelect}, {77, &c.chkEffects[2]},
+        {78, &c.chkSound[3]}, {79, &c.chkSound[8]}};
+}
+
+} // namespace
+
+class SettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaultsOfEveryLine()
+    {
+        QCOMPARE(SettingsLines(DefaultSettings(), false), defaultLines());
+        QCOMPARE(SettingsLines(DefaultSettings(), true).size(), 83);
+    }
+
+    // Alone, each line is read and written as itself: no two lines share or swap a setting.
+    void everyLineIsItsOwn()
+    {
+        const QStringList before = SettingsLines(DefaultSettings(), true);
+        for (int line = 1; line <= before.size(); ++line) {
+            QStringList lines = before;
+            QString& value = lines[line - 1];
+            const bool isText = !value.endsWith(u' ');
+            value = isText ? u"a \"b\", %1 c"_s : value == u" 0 "_s ? u" 1 "_s : u" 0 "_s;
+            Settings settings = DefaultSettings();
+            QCOMPARE(ReadSettings(settings, lines, true), ReadResult::Complete);
+            const QList<int> changed = line == 29 ? QList<int>{} : line == 46 ? QList{29, 46} : QList{line};
+            QCOMPARE(changedLines(before, SettingsLines(settings, true)), changed);
+        }
+    }
+
+    void linesWithoutAControl()
+    {
+        Settings s = DefaultSettings();
+        QStringList lines = SettingsLines(s, true);
+        for (const int line : {2, 3, 4, 60, 71, 72, 82, 83})
+            lines[line - 1] = QString::number(line);
+        for (const int line : {23, 54, 55, 56, 57, 58, 73})
+            lines[line - 1] = u"text "_s + QString::number(line);
+        lines[79] = u"0"_s;
+        QCOMPARE(ReadSettings(s, lines, true), ReadResult::Complete);
+        QCOMPARE(QList({s.LastSkill, s.TitlePicIndex, s.TipNumber, s.ListMode, s.LastLaunchMode, s.CommandPanelMode,
+                     s.WindowTop, s.WindowLeft}),
+            QList({2, 3, 4, 60, 71, 72, 82, 83}));
+        QStringList texts;
+        for (const int line : {23, 54, 55, 56, 57, 58, 73})
+            texts << u"text "_s + QString::number(line);
+        QCOMPARE(QStringList({s.CustomText, s.SelectedGameAutoOff, s.SelectedGameAutoOn, s.SelectedGame,
+                     s.SelectedDoomGame, s.SelectedArchive, s.PlaylistName}),
+            texts);
+        QVERIFY(!s.PlaylistFrameHidden);
+    }
+
+    void numbers_data()
+    {
+        QTest::addColumn<int>("line");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<ReadResult>("result");
+        QTest::addColumn<QString>("stored"); // what the next save writes
+        const auto row = [](int line, const QString& text, ReadResult result, const QString& stored) {
+            QTest::addRow("%d '%s'", line, qPrintable(text)) << line << text << result << stored;
+        };
+        const QString on = u" 1 "_s;
+        const QString off = u" 0 "_s;
+        row(43, u"-1"_s, ReadResult::Complete, on);
+        row(43, u"0.5"_s, ReadResult::Complete, off);
+        row(43, u"-0.5"_s, ReadResult::Complete, on);
+        row(40, u" 0 "_s, ReadResult::Complete, off);
+        row(43, u"abc"_s, ReadResult::Corrupt, off);
+        row(40, u""_s, ReadResult::Corrupt, on);
+        row(43, u"1,5"_s, ReadResult::Corrupt, off);
+        row(43, u"32768"_s, ReadResult::Stopped, off);
+        row(75, u" 1 2 "_s, ReadResult::Complete, u" 12 "_s);
+        row(75, u"9.9"_s, ReadResult::Complete, u" 9 "_s);
+        row(75, u"-9.1"_s, ReadResult::Complete, u"-10 "_s);
+        row(75, u"2e3"_s, ReadResult::Complete, u" 2000 "_s);
+        row(75, u"-32768"_s, ReadResult::Complete, u"-32768 "_s);
+        row(75, u"-32769"_s, ReadResult::Stopped, u" 4 "_s);
+        row(75, u"1e999"_s, ReadResult::Stopped, u" 4 "_s);
+        row(75, u"nan"_s, ReadResult::Corrupt, u" 4 "_s);
+        row(75, u"0x10"_s, ReadResult::Corrupt, u" 4 "_s);
+        row(4, u"2147483647"_s, ReadResult::Complete, u" 2147483647 "_s);
+        row(4, u"2147483648"_s, ReadResult::Stopped, u" 0 "_s);
+        row(83, u"-70000"_s, ReadResult::Complete, u"-70000 "_s);
+    }
+    void numbers()
+    {
+        QFETCH(int, line);
+        QFETCH(QString, text);
+        QFETCH(ReadResult, result);
+        QStringList lines = SettingsLines(DefaultSettings(), true);
+        lines[line - 1] = text;
+        lines[line - 2] = u"1"_s; // is read
+        if (line < 83)
+            lines[line] = u"1"_s; // is read when nothing stopped before
+        Settings settings = DefaultSettings();
+        QCOMPARE(ReadSettings(settings, lines, true), result);
+        const QStringList after = SettingsLines(settings, true);
+        QTEST(after.at(line - 1), "stored");
+        QCOMPARE(after.at(line - 2).trimmed(), u"1"_s);
+        if (line < 83)
+            QCOMPARE(after.at(line).trimmed() == u"1"_s,
+                result == ReadResult::Complete || defaultLines().value(line).trimmed() == u"1"_s);
+    }
+
+    void roundTripKeepsEveryByte_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("windows-1252") << u"Größe 100 % %1 %n \"quoted\" café – €"_s;
+        QTest::newRow("other letters") << u"Łódź Дум %2"_s;
+    }
+    void roundTripKeepsEveryByte()
+    {
+        QFETCH(QString, name);
+        LauncherFixture f;
+        QMap<int, QString> changed{{82, u" 40 "_s}, {83, u"-5 "_s}};
+        for (const int line : {23, 54, 55, 56, 57, 58, 59, 73, 81})
+            changed[line] = name;
+        const QByteArray before = f.configWith(changed);
+        f.setConfig(before);
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.CustomText, name);
+        ApplySettingsToControls(f.launcher.settings, f.launcher.controls);
+        ReadControlsToSettings(f.launcher.settings, f.launcher.controls);
+        SaveSettings(f.launcher);
+        QCOMPARE(f.config(), before);
+    }
+
+    void shortFile()
+    {
+        LauncherFixture f;
+        f.setConfig("v9.1\r\n");
+        LoadSettings(f.launcher);
+        QCOMPARE(SettingsLines(f.launcher.settings, false), defaultLines());
+        QCOMPARE(f.launcher.settings.WindowTop, 230);
+        QCOMPARE(f.launcher.settings.WindowLeft, 490);
+        SaveSettings(f.launcher);
+        QCOMPARE(f.config().count("\r\n"), 83);
+        QVERIFY(f.config().endsWith("\r\n 230 \r\n 490 \r\n"));
+    }
+
+    void wineHasNoPosition()
+    {
+        LauncherFixture f;
+        f.launcher.startUp.RunningUnderWine = true;
+        f.setConfig(f.configWith({{82, u" 7 "_s}, {83, u"abc"_s}}));
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.WindowTop, 230);
+        SaveSettings(f.launcher);
+        QCOMPARE(f.config().count("\r\n"), 81);
+
+        f.launcher.startUp.RunningUnderWine = false;
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.WindowLeft, 490);
+    }
+
+    void limits_data()
+    {
+        QTest::addColumn<int>("line");
+        QTest::addColumn<int>("inFile");
+        QTest::addColumn<int>("used");
+        QTest::newRow("grenades 9") << 76 << 9 << 7;
+        QTest::newRow("grenades -3") << 76 << -3 << 0;
+        QTest::newRow("grenades 7") << 76 << 7 << 7;
+        QTest::newRow("light 300") << 22 << 300 << 200;
+        QTest::newRow("light 256") << 22 << 256 << 200;
+        QTest::newRow("light 255") << 22 << 255 << 255;
+    }
+    void limits()
+    {
+        QFETCH(int, line);
+        QFETCH(int, inFile);
+        QFETCH(int, used);
+        LauncherFixture f;
+        f.setConfig(f.configWith({{line, QString::number(inFile)}}));
+        LoadSettings(f.launcher);
+        ApplySettingsToControls(f.launcher.settings, f.launcher.controls);
+        const TextBox& box = line == 76 ? f.launcher.controls.Timeout : f.launcher.controls.LightText;
+        QCOMPARE(box.text, QString::number(used));
+        SaveSettings(f.launcher);
+        QCOMPARE(f.config().split('\n').at(line - 1).trimmed(), QByteArray::number(used));
+    }
+
+    // What a player can type or paste must not cost the lines below it at the next start.
+    void savedFilesCanBeRead()
+    {
+        LauncherFixture f;
+        LoadSettings(f.launcher);
+        f.launcher.controls.LightText.text = u"70000"_s;
+        f.launcher.controls.edCustom.text = u"-warp\r\n1"_s;
+        f.launcher.settings.SelectedGame = u"two\nlines"_s;
+        f.launcher.settings.PlaylistName = u"kept"_s;
+        ReadControlsToSettings(f.launcher.settings, f.launcher.controls);
+        SaveSettings(f.launcher);
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.PlaylistName, u"kept"_s);
+        QCOMPARE(f.launcher.settings.CustomText, u"-warp  1"_s);
+    }
+
+    void theSelectedGameIsRememberedByAutoSelect()
+    {
+        LauncherFixture f;
+        Settings& settings = f.launcher.settings;
+        settings.SelectedGame = u"off"_s;
+        SaveSettings(f.launcher);
+        settings.AutoSelect = true;
+        settings.SelectedGame = u"on"_s;
+        SaveSettings(f.launcher);
+        QCOMPARE(f.config().split('\n').mid(53, 3), QByteArrayList({"off\r", "on\r", "on\r"}));
+    }
+
+    void corruptFile_data()
+    {
+        QTest::addColumn<int>("line");
+        QTest::newRow("number") << 5;
+        QTest::newRow("flag") << 43;
+        QTest::newRow("last line") << 83;
+    }
+    void corruptFile()
+    {
+        QFETCH(int, line);
+        LauncherFixture f;
+        const QByteArray corrupt = f.configWith({{2, u"4"_s}, {line, u"abc\xE4"_s}}) + "\0\x80 rest"_ba;
+        f.setConfig(corrupt);
+        f.installation.add(u"VYKLaunch/config.vyk.bak"_s, "an earlier one");
+        f.prompts.expectMessage();
+        LoadSettings(f.launcher);
+        QCOMPARE(f.prompts.texts, {corruptText});
+        QCOMPARE(f.prompts.titles, {u" Configuration error detected"_s});
+        QCOMPARE(f.prompts.styles, {4096});
+        QVERIFY(!f.hasConfig());
+        QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), "an earlier one");
+        QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak2"_s), corrupt);
+        QCOMPARE(f.window.topLeft, QPoint(490, 230));
+        QCOMPARE(f.processes.starts.size(), 1);
+        QCOMPARE(f.processes.lastCommandLine(), u'"' + f.path(u"bin/VYKlauncher.exe"_s) + u"\" /RESTART"_s);
+        QVERIFY(f.launcher.startUp.ShuttingDown && f.launcher.startUp.VersionUpdate);
+        QCOMPARE(f.window.calls, QStringList({u"hide"_s, u"endProgram"_s}));
+        QCOMPARE(SettingsLines(f.launcher.settings, false), defaultLines());
+    }
+
+    // Defaults must not replace a file of which there is no copy, nor a restart find it again.
+    void corruptFileWithoutACopy()
+    {
+        for (const QString& failing : {u".bak"_s, u"config.vyk"_s}) {
+            LauncherFixture f;
+            const QByteArray corrupt = f.configWith({{43, u"abc"_s}});
+            f.setConfig(corrupt);
+            f.files.failOn(failing, Kind::PermissionDenied);
+            QVERIFY_THROWS_EXCEPTION(FileError, LoadSettings(f.launcher));
+            QCOMPARE(f.config(), corrupt);
+            QVERIFY(f.processes.starts.isEmpty());
+        }
+    }
+
+    void boxesAndLines()
+    {
+        Controls controls;
+        Settings settings = DefaultSettings();
+        ApplySettingsToControls(settings, controls);
+        ReadControlsToSettings(settings, controls);
+        const QStringList before = SettingsLines(settings, false);
+        QCOMPARE(before, defaultLines());
+        for (const auto& [line, box] : storedBoxes(controls)) {
+            box->setValue(1 - box->value());
+            ReadControlsToSettings(settings, controls);
+            const QStringList after = SettingsLines(settings, false);
+            QCOMPARE(changedLines(before, after), {line});
+
+            box->setValue(2); // greyed is not ticked
+            ReadControlsToSettings(settings, controls);
+            QCOMPARE(SettingsLines(settings, false).at(line - 1), u" 0 "_s);
+
+            for (const QStringList& lines : {after, before}) {
+                ReadSettings(settings, lines, false);
+                ApplySettingsToControls(settings, controls);
+                QCOMPARE(box->ticked(), lines.at(line - 1) == u" 1 "_s);
+            }
+        }
+    }
+
+    void otherControls()
+    {
+        Controls c;
+        Settings settings = DefaultSettings();
+        c.chkMain[6].setTicked(true);
+        c.cbChannels.setCurrentText(u"64"_s);
+        c.cbScaler.setCurrentText(u"3"_s);
+        c.SkyOpt.select(1);
+        c.Smoke.select(1);
+        c.ExitOption.select(2);
+        c.SkillsLevel[1].select(5);
+        c.LightText.text.clear();
+        c.edCustom.text = u"-x"_s;
+        c.Corpse.text = u"8"_s;
+        c.Ricotext.text = u"1"_s;
+        c.Timeout.text = u"6"_s;
+        c.chkSound[2].setTicked(!settings.RicochetSetting);
+        ReadControlsToSettings(settings, c);
+        QVERIFY(settings.RicochetSetting); // while the box is disabled, its state is not the setting
+        const QStringList lines = SettingsLines(settings, false);
+        const QMap<int, QString> expected{{5, u" 64 "_s}, {6, u" 3 "_s}, {22, u" 0 "_s}, {23, u"-x"_s},
+            {29, u" 1 "_s}, {33, u" 1 "_s}, {34, u" 1 "_s}, {46, u" 1 "_s}, {52, u" 5 "_s}, {53, u" 2 "_s},
+            {74, u" 8 "_s}, {75, u" 1 "_s}, {76, u" 6 "_s}};
+        for (auto line = expected.cbegin(); line != expected.cend(); ++line)
+            QCOMPARE(lines.at(line.key() - 1), line.value());
+
+        Controls fresh;
+        settings.AudioChannels = 48; // a number that the list does not offer stays
+        ApplySettingsToControls(settings, fresh);
+        Settings again = DefaultSettings();
+        ReadControlsToSettings(again, fresh);
+        QStringList kept = lines;
+        kept[4] = u" 48 "_s;
+        for (auto line = expected.cbegin(); line != expected.cend(); ++line)
+            QCOMPARE(SettingsLines(again, false).at(line.key() - 1), kept.at(line.key() - 1));
+    }
+
+    void smallFiles()
+    {
+        LauncherFixture f;
+        const QString ownArchives = f.launcher.paths.ArchivesPath;
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.paths.ArchivesPath, ownArchives);
+        f.installation.add(u"VYKLaunch/Data/texpath.vyk"_s, "D:\\H\xFCge, 100%\r\nmore");
+        f.installation.add(u"VYKLaunch/Data/archives.vyk"_s, "E:\\Zips\r\n");
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.TexturePath, u"D:/Hüge, 100%"_s);
+        QCOMPARE(f.launcher.paths.ArchivesPath, u"E:/Zips"_s);
+    }
+
+    void font_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("bold");
+        QTest::newRow("bold") << "Tahoma,10,B"_ba << u"Tahoma"_s << 10 << true;
+        QTest::newRow("small b") << "DejaVu Sans,9,b\r\n"_ba << u"DejaVu Sans"_s << 9 << true;
+        QTest::newRow("plain") << "Tahoma,10"_ba << u"Tahoma"_s << 10 << false;
+        QTest::newRow("name only") << "Tahoma"_ba << u"Tahoma"_s << 0 << false;
+        QTest::newRow("empty") << ""_ba << QString() << 0 << false;
+    }
+    void font()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(QString, name);
+        LauncherFixture f;
+        QVERIFY(!LoadFontSetting(f.files, f.path(u"font.vyk"_s)).CustomFontOn);
+        f.installation.add(u"font.vyk"_s, line);
+        const FontSetting font = LoadFontSetting(f.files, f.path(u"font.vyk"_s));
+        QCOMPARE(font.CustomFontOn, !name.isEmpty());
+        QCOMPARE(font.FontName, name);
+        QTEST(font.FontSize, "size");
+        QTEST(font.FontBold, "bold");
+    }
+};
+
+QTEST_GUILESS_MAIN(SettingsTest)
+#include "SettingsTest.moc"

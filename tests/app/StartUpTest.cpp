@@ -1,0 +1,250 @@
+#include "app/StartUp.h"
+
+#include "app/MainWindowLoad.h"
+#include "tests/support/LauncherFixture.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using Kind = FileError::Kind;
+
+namespace {
+
+const QString accessText
+    = u"   You appear to have restricted access with this user account, Keldrax        \r\n"
+      "    requires a UAC with a higher privilege level before it will run."_s;
+const QString accessTitle = u"Restricted Window's User Account Control"_s;
+const QString unknownText = u"   Unable to run the VYKlauncher due to unknown error      \r\n"
+                            "  please report error to the Keldrax development team."_s;
+
+// The services note their calls among those of the window, so that one list has the order of all.
+class StartFixture : public LauncherFixture
+{
+public:
+    StartFixture() { addIwad(u"Data/Doom2.wad"_s); }
+
+    bool placeIsFree = true;
+    bool otherAnswers = true;
+    bool loadedAtClaim = false;
+    bool captionAtClaim = false;
+
+    StartResult start(const QString& arguments = {})
+    {
+        const auto note = [this](const QString& call) {
+            window.calls << call;
+            loadedAtClaim = installation.exists(u"VYKGames"_s);
+            captionAtClaim = !launcher.startUp.WindowCaption.isEmpty();
+        };
+        return Main(launcher, arguments,
+            {.claimInstance = [=, this] { return note(u"claim"_s), placeIsFree; },
+                .activateRunningInstance = [=, this] { return note(u"activate"_s), otherAnswers; },
+                .claimInstanceWhenFree = [=] { note(u"claimWhenFree"_s); },
+                .showTips = [this] { window.calls << u"tips"_s; }});
+    }
+};
+
+} // namespace
+
+class StartUpTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QDir::setCurrent(QDir::tempPath()); } // the installation's folder is gone
+
+    void stepsInOrder()
+    {
+        StartFixture f;
+        QCOMPARE(f.start(), StartResult::Running);
+        QCOMPARE(f.window.calls, QStringList({u"claim"_s, u"show"_s, u"tips"_s}));
+        QVERIFY(!f.loadedAtClaim); // a second start must not touch anything
+        QVERIFY(f.captionAtClaim);
+        QCOMPARE(f.launcher.controls.MainForm.caption, u"VYKLauncher v9.1  and  Keldrax v2.2"_s);
+        QVERIFY(!f.installation.exists(u"VYKLaunch/Admin"_s));
+        QCOMPARE(QDir::currentPath(), QDir(f.installation.root()).canonicalPath());
+    }
+
+    void tipsOnlyWhenWanted()
+    {
+        StartFixture f;
+        f.setConfig(f.configWith({{62, u" 0 "_s}}));
+        QCOMPARE(f.start(), StartResult::Running);
+        QVERIFY(!f.window.calls.contains(u"tips"_s));
+    }
+
+    void commandLine_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<bool>("wine");
+        QTest::addColumn<QString>("claim");
+        QTest::newRow("wine") << u"/WINE"_s << true << u"claim"_s;
+        QTest::newRow("lower case") << u"/wine"_s << true << u"claim"_s;
+        QTest::newRow("restart") << u"/Restart"_s << false << u"claimWhenFree"_s;
+        QTest::newRow("both") << u"/WINE /RESTART"_s << false << u"claim"_s;
+        QTest::newRow("both, other order") << u"/RESTART /WINE"_s << false << u"claim"_s;
+        QTest::newRow("longer") << u"/WINES"_s << false << u"claim"_s;
+    }
+    void commandLine()
+    {
+        QFETCH(QString, arguments);
+        StartFixture f;
+        f.start(arguments);
+        QTEST(f.launcher.startUp.RunningUnderWine, "wine");
+        QTEST(f.window.calls.value(0), "claim");
+    }
+
+    void secondStart()
+    {
+        StartFixture f;
+        f.placeIsFree = false;
+        QCOMPARE(f.start(), StartResult::Ended);
+        QCOMPARE(f.window.calls, QStringList({u"claim"_s, u"activate"_s}));
+
+        f.otherAnswers = false;
+        f.prompts.expectMessage();
+        QCOMPARE(f.start(), StartResult::Ended);
+        QVERIFY(!f.window.shown);
+        QVERIFY(!f.installation.exists(u"VYKGames"_s));
+    }
+
+    void requiredFiles_data()
+    {
+        QTest::addColumn<QStringList>("missing");
+        QTest::addColumn<QString>("reported");
+        QTest::newRow("engine") << QStringList{u"Keldrax"_s} << u"Keldrax.exe"_s;
+        QTest::newRow("tool") << QStringList{u"VYKgFiles"_s} << u"VYKgFiles.exe"_s;
+        QTest::newRow("zip") << QStringList{u"unzip32.dll"_s} << u"unzip32.dll"_s;
+        QTest::newRow("sound") << QStringList{u"fmodex.dll"_s} << u"fmodex.dll"_s;
+        QTest::newRow("zip before sound") << QStringList{u"fmodex.dll"_s, u"unzip32.dll"_s} << u"unzip32.dll"_s;
+        QTest::newRow("engine before tool") << QStringList{u"VYKgFiles"_s, u"Keldrax"_s} << u"Keldrax.exe"_s;
+    }
+    void requiredFiles()
+    {
+        QFETCH(QStringList, missing);
+        QFETCH(QString, reported);
+        StartFixture f;
+        f.setConfig("v9.1\r\n");
+        for (const QString& name : missing)
+            QVERIFY(QFile::remove(f.path(u"Bin/"_s + name)));
+        f.prompts.expectMessage();
+        QCOMPARE(f.start(), StartResult::Ended);
+        QCOMPARE(f.window.calls, QStringList({u"show"_s, u"hide"_s, u"endProgram"_s}));
+        QCOMPARE(f.prompts.texts, {reported + u" has not been detected - re-install Keldrax.    "_s});
+        QCOMPARE(f.prompts.titles, {u"Startup error"_s});
+        QCOMPARE(f.prompts.styles, {4096});
+        UnloadMainWindow(f.launcher);
+        QCOMPARE(f.config(), "v9.1\r\n"); // ended without saving
+    }
+
+    void windowsProgramsCount()
+    {
+        StartFixture f;
+        for (const QString& name : {u"Keldrax"_s, u"VYKgFiles"_s})
+            QVERIFY(QFile::rename(f.path(u"Bin/"_s + name), f.path(u"Bin/"_s + name.toUpper() + u".EXE"_s)));
+        QCOMPARE(CheckRequiredFiles(f.files, f.launcher.paths), QString());
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QString>("at");
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<bool>("access");
+        QTest::newRow("write test") << u"Admin"_s << Kind::PermissionDenied << true;
+        QTest::newRow("write test, in use") << u"Admin"_s << Kind::InUse << true;
+        QTest::newRow("write test, in the way") << u"Admin"_s << Kind::Exists << true;
+        QTest::newRow("disk full") << u"Admin"_s << Kind::Other << false;
+        QTest::newRow("path not found") << u"Admin"_s << Kind::NotFound << false;
+        QTest::newRow("load") << u"VYKGames"_s << Kind::PermissionDenied << true;
+        QTest::newRow("load, other") << u"VYKGames"_s << Kind::Other << false;
+    }
+    void failures()
+    {
+        QFETCH(QString, at);
+        QFETCH(Kind, kind);
+        QFETCH(bool, access);
+        StartFixture f;
+        QFile::remove(f.path(u"Bin/fmodex.dll"_s));
+        if (at == u"VYKGames"_s)
+            f.installation.add(u"Bin/fmodex.dll"_s); // else: the write test comes before the file check
+        f.files.failOn(at, kind);
+        f.prompts.expectMessage();
+        QCOMPARE(f.start(), StartResult::Ended);
+        QCOMPARE(f.prompts.texts, {access ? accessText : unknownText});
+        QCOMPARE(f.prompts.titles, {access ? accessTitle : u"Unknown Error"_s});
+        QCOMPARE(f.prompts.styles, {access ? 48 : 16});
+        QCOMPARE(f.window.calls.last(), u"endProgram"_s);
+        QVERIFY(!f.window.shown);
+        UnloadMainWindow(f.launcher);
+        QVERIFY(!f.hasConfig());
+    }
+
+    void firstConfigLine_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QString>("reason"); // how the message begins; empty when the settings stay
+        const QString upgrade = u"The latest version upgrade"_s;
+        const QString unreadable = u"Corrupt config file detected"_s;
+        const QByteArray rest = LauncherFixture::configWith({{4, u" 77 "_s}}).mid(4);
+        QTest::newRow("this version") << "v9.1" + rest << QString();
+        QTest::newRow("capital V") << "V9.1" + rest << QString();
+        QTest::newRow("UTF-8") << "\xEF\xBB\xBFv9.1" + rest << QString();
+        QTest::newRow("older") << "v9.0" + rest << upgrade;
+        QTest::newRow("longer") << "v9.1 " + rest << upgrade;
+        QTest::newRow("blank") << "" + rest << upgrade;
+        QTest::newRow("binary") << QByteArray("\0\xff\x1a\x80\0\r\n\0", 8) << upgrade;
+        QTest::newRow("empty") << QByteArray("") << unreadable;
+    }
+    void firstConfigLine()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QString, reason);
+        const bool reset = !reason.isEmpty();
+        StartFixture f;
+        f.setConfig(before);
+        QVERIFY(QFile::setPermissions(f.path(u"VYKLaunch/config.vyk"_s), QFile::ReadOwner));
+        if (reset)
+            f.prompts.expectMessage();
+        QCOMPARE(f.start(), StartResult::Running);
+        QCOMPARE(f.launcher.settings.TipNumber, reset ? 0 : 77);
+        QCOMPARE(f.hasConfig(), !reset);
+        QVERIFY(!f.launcher.startUp.VersionUpdate && !f.launcher.startUp.ConfigReadError);
+        if (!reset)
+            return;
+        QCOMPARE(f.prompts.texts,
+            {reason + u" required the launcher configurations to     \r\n"
+                      " be reset to the default settings, please reconfigure your settings. "_s});
+        QCOMPARE(f.prompts.titles, {u" Version update v9.1"_s});
+        QCOMPARE(f.prompts.styles, {4096});
+        QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), before);
+        UnloadMainWindow(f.launcher);
+        QCOMPARE(f.config().count("\r\n"), 83);
+    }
+
+    void oldSettingsStayWithoutACopy()
+    {
+        for (const QString& failing : {u".bak"_s, u"config.vyk"_s}) {
+            StartFixture f;
+            f.setConfig("v1.0\r\nold");
+            f.files.failOn(failing, Kind::PermissionDenied);
+            f.prompts.expectMessage();
+            QCOMPARE(f.start(), StartResult::Ended);
+            QCOMPARE(f.prompts.titles, {accessTitle});
+            UnloadMainWindow(f.launcher);
+            QCOMPARE(f.config(), "v1.0\r\nold");
+        }
+    }
+
+    void engineVersion()
+    {
+        StartFixture f;
+        for (const auto& [content, version] : {std::pair{"Keldrax v3.5\r\nmore"_ba, u"Keldrax v3.5"_s},
+                 std::pair{""_ba, u"Keldrax v2.2"_s}, std::pair{"\r\n"_ba, u"Keldrax v2.2"_s}}) {
+            f.installation.add(u"VYKLaunch/Data/version.vyk"_s, content);
+            QCOMPARE(ReadEngineVersion(f.files, f.launcher.paths), version);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(StartUpTest)
+#include "StartUpTest.moc"

@@ -1,0 +1,211 @@
+// The games list and what choosing in it does; the records of what was chosen last.
+#include "catalogue/GameLists.h"
+
+#include "catalogue/GameRecords.h"
+#include "launch/LaunchButton.h"
+#include "savegames/SaveGames.h"
+#include "tests/support/CommercialGame.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString doom2Map = u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s;
+const QString doom2Save = u"VYKLaunch/GameInfo/Save/doom2.vyks"_s;
+
+Settings remembering(bool maps, bool saves, int skill = 3)
+{
+    Settings settings = DefaultSettings();
+    settings.RememberLastMap = maps;
+    settings.RememberLastSavegame = saves;
+    settings.Skill = skill;
+    return settings;
+}
+
+void addSavegames(CommercialGame& game)
+{
+    game.installation.add(u"UserSG/doom2/savegame/KeldraxSav7.vyksg"_s, "Before the boss\0\0"_ba);
+    game.installation.add(u"UserSG/DOOM2/savegame/other.txt"_s);
+    game.installation.add(u"UserSG/doom2/savegame/KeldraxSav0.vyksg"_s, "Start, \"gun\"\0"_ba);
+    game.selectGame(u"Doom II"_s);
+}
+
+} // namespace
+
+class GameListsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theDoomGames()
+    {
+        CommercialGame game;
+        Launcher& launcher = game.launcher;
+        const Controls& controls = launcher.controls;
+        QCOMPARE(controls.PwadList.entries(), (QStringList{u"DOOM II"_s, u"DOOM/ULTIMATE DOOM"_s}));
+        QCOMPARE(controls.Auto[0].caption, u"COMMERCIAL DOOM LIST"_s);
+        QCOMPARE(controls.OptionUdir[1].colour, Colour::Accent);
+        QCOMPARE(controls.OptionUdir[0].colour, Colour::Normal);
+        QCOMPARE(controls.PwadShowlist.entries(), QStringList{u"Doom2.wad"_s});
+        QCOMPARE(controls.MapList.entries(), (QStringList{u"MAP01"_s, u"MAP07"_s, u"MAP31"_s}));
+        QVERIFY(launcher.selection.DoomGameSelected && controls.LaunchButton.enabled);
+        QCOMPARE(launcher.settings.SelectedDoomGame, u"DOOM II"_s);
+        QCOMPARE(launcher.selection.SelectedWadPath, game.path(u"Iwads/Doom2.wad"_s));
+        QCOMPARE(launcher.selection.SaveGameFolder, game.path(u"UserSG/doom2/savegame"_s));
+
+        // The remembered game is selected again, in the other views as well.
+        game.addWad(u"VYKGames/Beta/Pwads/b.wad"_s, {u"E1M1"_s});
+        game.addWad(u"VYKGames/alpha/Gwads/a.wad"_s, {u"MAP01"_s});
+        game.installation.addFolder(u"VYKGames/no game"_s);
+        OptionUdirClick(launcher, 0);
+        QCOMPARE(controls.PwadList.entries(), (QStringList{u"ALPHA"_s, u"BETA"_s}));
+        QVERIFY(launcher.selection.GwadSelected && !launcher.selection.PwadSelected);
+        QCOMPARE(controls.PwadShowlist.entries(), QStringList{u"a.wad"_s});
+        game.selectGame(u"BETA"_s);
+        QVERIFY(launcher.selection.PwadSelected && !launcher.selection.GwadSelected);
+        QCOMPARE(controls.MapList.entries(), QStringList{u"E1M1"_s});
+        QVERIFY(!launcher.selection.DoomGameSelected && !controls.LaunchButton.enabled);
+        game.installation.add(u"VYKArchives/some.ZIP"_s);
+        game.installation.add(u"VYKArchives/some.txt"_s);
+        OptionUdirClick(launcher, 2);
+        QCOMPARE(controls.Auto[0].caption, u"ZIP LIBRARY"_s);
+        QCOMPARE(controls.PwadList.entries(), QStringList{u"SOME"_s});
+        QVERIFY(controls.MapList.isEmpty() && !controls.LaunchButton.enabled);
+        OptionUdirClick(launcher, 0);
+        QCOMPARE(controls.PwadList.selectedText(), u"BETA"_s);
+        OptionUdirClick(launcher, 1);
+        QCOMPARE(controls.PwadList.selectedText(), u"DOOM II"_s);
+        QVERIFY(controls.LaunchButton.enabled);
+
+        launcher.iwads = {};
+        OptionUdirClick(launcher, 1);
+        QVERIFY(controls.PwadList.isEmpty() && controls.PwadShowlist.isEmpty());
+        QVERIFY(!controls.LaunchButton.enabled && !controls.AuxButton[2].enabled);
+    }
+
+    void mapsAreRemembered()
+    {
+        CommercialGame game(remembering(true, false));
+        const ListBox& maps = game.launcher.controls.MapList;
+        QCOMPARE(maps.selectedText(), u"MAP01"_s);
+        QVERIFY(!game.installation.exists(doom2Map)); // restored, not picked
+        game.pickMap(u"MAP07"_s);
+        QCOMPARE(game.installation.read(doom2Map), "MAP07\r\n");
+        game.selectGame(u"Doom/Ultimate Doom"_s);
+        QCOMPARE(maps.selectedText(), u"E1M1"_s);
+        QCOMPARE(game.launcher.launch.WarpArgument, u"1 1"_s);
+        game.selectGame(u"Doom II"_s);
+        QCOMPARE(maps.selectedText(), u"MAP07"_s);
+        QCOMPARE(game.launcher.launch.WarpArgument, u"07"_s);
+        for (const QByteArray& record : {QByteArray(), QByteArray("MAP99\r\n"), QByteArray("\0\xff,", 3)}) {
+            game.installation.add(doom2Map, record);
+            game.selectGame(u"Doom II"_s);
+            QCOMPARE(maps.selectedText(), u"MAP01"_s);
+        }
+        game.installation.add(doom2Map, " \"map31\" ,more\r\nMAP07\r\n");
+        game.selectGame(u"Doom II"_s);
+        QCOMPARE(maps.selectedText(), u"MAP31"_s);
+
+        game.addWad(u"VYKGames/Mine/Pwads/m.wad"_s, {u"MAP01"_s, u"MAP02"_s});
+        OptionUdirClick(game.launcher, 0);
+        game.pickMap(u"MAP02"_s);
+        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Pwads/mine.vykm"_s), "MAP02\r\n");
+        game.addWad(u"Iwads/Doom1.wad"_s, {u"E1M1"_s});
+        game.launcher.iwads.of(GameFamily::Shareware) = game.path(u"Iwads/Doom1.wad"_s);
+        OptionUdirClick(game.launcher, 1);
+        game.selectGame(u"Shareware Doom"_s);
+        game.pickMap(u"E1M1"_s);
+        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Iwads/shareware doom.vykm"_s), "E1M1\r\n");
+    }
+
+    void mapsAreNotRemembered()
+    {
+        CommercialGame game(remembering(false, true));
+        game.installation.add(doom2Map, "MAP31\r\n");
+        game.selectGame(u"Doom II"_s);
+        QCOMPARE(game.launcher.controls.MapList.selectedText(), u"MAP01"_s);
+        addSavegames(game);
+        game.pickSavegame(u"7 - Before the boss"_s);
+        game.pickMap(u"MAP07"_s);
+        QCOMPARE(game.installation.read(doom2Map), "MAP31\r\n");
+        QCOMPARE(game.installation.read(doom2Save), "7\r\n"); // only a remembered map takes its place
+    }
+
+    // A name out of the settings never leads out of the records' folder.
+    void hostileNames()
+    {
+        CommercialGame game(remembering(true, true));
+        const QStringList before = game.installation.tree();
+        game.launcher.selection.DoomGameSelected = false;
+        game.launcher.selection.PwadSelected = true;
+        for (const QString& name : {u"../../x"_s, u"a/b"_s, u"a\\b"_s, u"/etc/x"_s, u" "_s, QString()}) {
+            game.launcher.selection.SelectedPwadGame = name;
+            game.pickMap(u"MAP07"_s);
+            SaveLastSavegame(game.launcher);
+            QCOMPARE(LastSavegame(game.launcher), QString());
+        }
+        QCOMPARE(game.installation.tree(), before);
+    }
+
+    void savegames()
+    {
+        CommercialGame game(remembering(true, true));
+        addSavegames(game);
+        Launcher& launcher = game.launcher;
+        const Controls& controls = launcher.controls;
+        QCOMPARE(controls.SaveGameList.entries(), (QStringList{u"0 - Start, 'gun'"_s, u"7 - Before the boss"_s}));
+        QCOMPARE(controls.SaveGameList.selected(), -1);
+        game.pickSavegame(u"7 - Before the boss"_s);
+        QCOMPARE(controls.MapList.selected(), -1);
+        QCOMPARE(game.installation.read(doom2Save), "7\r\n");
+        QCOMPARE(LaunchSelectedGame(launcher), LaunchResult::Started);
+        QVERIFY2(game.processes.lastCommandLine().endsWith(u" -sk 3 -loadgame 7 "_s),
+                 qPrintable(game.processes.lastCommandLine()));
+
+        // Remembered for its game alone, and restored in place of the map.
+        game.selectGame(u"Doom/Ultimate Doom"_s);
+        QVERIFY(controls.SaveGameList.isEmpty());
+        QCOMPARE(launcher.launch.StartChoice, StartChoice::ChosenMap);
+        QVERIFY(launcher.launch.SaveSlot.isEmpty());
+        game.selectGame(u"Doom II"_s);
+        QCOMPARE(controls.SaveGameList.selectedText(), u"7 - Before the boss"_s);
+        QCOMPARE(launcher.launch.StartChoice, StartChoice::ChosenSavegame);
+        QCOMPARE(controls.MapList.selected(), -1);
+
+        // After a game the slot stays chosen, wherever it is listed now; one that is gone is chosen no more.
+        game.installation.add(u"UserSG/doom2/savegame/KeldraxSav1.vyksg"_s, "New\0"_ba);
+        RefreshSaveGames(launcher);
+        QCOMPARE(controls.SaveGameList.count(), 3);
+        QCOMPARE(controls.SaveGameList.selectedText(), u"7 - Before the boss"_s);
+
+        game.pickMap(u"MAP31"_s);
+        QVERIFY(!game.installation.exists(doom2Save));
+        QVERIFY(launcher.launch.SaveSlot.isEmpty());
+        QCOMPARE(controls.SaveGameList.selected(), -1);
+        game.installation.add(doom2Save, "9");
+        game.selectGame(u"Doom II"_s);
+        QCOMPARE(controls.MapList.selectedText(), u"MAP31"_s);
+    }
+
+    // Records that cannot be written or deleted are given up; the choice counts all the same.
+    void failingRecords()
+    {
+        CommercialGame game(remembering(true, true));
+        addSavegames(game);
+        game.pickMap(u"MAP07"_s);
+        game.pickSavegame(u"7 - Before the boss"_s);
+        game.files.failOn(u"GameInfo"_s, FileError::Kind::PermissionDenied);
+        game.pickSavegame(u"0 - Start, 'gun'"_s);
+        QCOMPARE(game.launcher.launch.SaveSlot, u"0"_s);
+        game.pickMap(u"MAP31"_s);
+        QCOMPARE(game.installation.read(doom2Map), "MAP07\r\n");
+        QCOMPARE(game.installation.read(doom2Save), "7\r\n");
+        QCOMPARE(LaunchSelectedGame(game.launcher), LaunchResult::Started);
+        QVERIFY(game.processes.lastCommandLine().endsWith(u" -sk 3 -wp 31 "_s));
+    }
+};
+
+QTEST_GUILESS_MAIN(GameListsTest)
+#include "GameListsTest.moc"

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/SettingsControls.h"
+#include "catalogue/GameLists.h"
+#include "options/Skills.h"
+#include "platform/SystemProcesses.h"
+#include "tests/support/LauncherFixture.h"
+
+#include <QFile>
+
+// A launcher with the IWADs of Doom and Doom II in the installation's own folder and the real game-file
+// tool, showing the Doom games with Doom II selected and the skill at "Start game from New".
+class CommercialGame : public LauncherFixture
+{
+public:
+    explicit CommercialGame(const Settings& settings = DefaultSettings())
+    {
+        const QString tool = path(QStringLiteral("Bin/VYKgFiles"));
+        if (!QFile::remove(tool) || !QFile::link(QStringLiteral(VYKGFILES_PROGRAM), tool))
+            qFatal("the game-file tool cannot be put in its place");
+        processes.delegate = &programs;
+        addWad(QStringLiteral("Iwads/Doom.wad"), {QStringLiteral("E1M1"), QStringLiteral("E3M2")});
+        addWad(QStringLiteral("Iwads/Doom2.wad"), {QStringLiteral("MAP01"), QStringLiteral("MAP07"),
+                                                   QStringLiteral("MAP31")});
+        launcher.settings = settings;
+        ApplySettingsToControls(launcher.settings, launcher.controls);
+        SetMapFocus(launcher);
+        BuildIwadList(launcher.iwads, files, launcher.paths, launcher.environment);
+        OptionUdirClick(launcher, 1);
+        selectGame(QStringLiteral("Doom II"));
+    }
+
+    // A WAD whose maps are `maps`.
+    void addWad(const QString& relativePath, const QStringList& maps)
+    {
+        QStringList lumps;
+        for (const QString& map : maps)
+            lumps += {map, QStringLiteral("THINGS"), QStringLiteral("LINEDEFS"), QStringLiteral("SIDEDEFS"),
+                      QStringLiteral("VERTEXES")};
+        installation.add(relativePath, TemporaryInstallation::wad("PWAD", lumps));
+    }
+
+    // The player's clicks.
+    void selectGame(const QString& title) { click(launcher.controls.PwadList, title); }
+    void pickMap(const QString& map) { click(launcher.controls.MapList, map); }
+    void pickSavegame(const QString& entry) { click(launcher.controls.SaveGameList, entry); }
+    void pickSkill(int skill) { launcher.controls.SkillsLevel[1].click(skill); }
+
+private:
+    static void click(ListBox& list, const QString& entry)
+    {
+        if (list.find(entry) < 0)
+            qFatal("not listed: %s", qPrintable(entry));
+        list.click(list.find(entry));
+    }
+
+    SystemProcesses programs{disk};
+};
