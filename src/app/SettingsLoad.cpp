@@ -1,6 +1,5 @@
 #include "app/SettingsLoad.h"
 
-#include "app/SettingsFile.h"
 #include "app/StartUp.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
@@ -26,19 +25,9 @@ QString firstLineOf(const FileSystem& files, const QString& path)
     }
 }
 
-void setDefaults(Launcher& launcher)
-{
-    const QString texturePath = launcher.settings.TexturePath;
-    launcher.settings = DefaultSettings();
-    launcher.settings.TexturePath = texturePath;
-    const QPoint centre = centred(launcher.window);
-    launcher.settings.WindowTop = centre.y();
-    launcher.settings.WindowLeft = centre.x();
-}
-
 void reportCorruptConfig(Launcher& launcher)
 {
-    setDefaults(launcher);
+    UseDefaultSettings(launcher);
     launcher.window.moveTo(centred(launcher.window));
     launcher.startUp.VersionUpdate = true;
     SetConfigAside(launcher);
@@ -47,20 +36,6 @@ void reportCorruptConfig(Launcher& launcher)
         Msg::Ok + Msg::SystemModal, u" Configuration error detected"_s);
     RestartLauncher(launcher);
     ShutDownLauncher(launcher);
-}
-
-void adjust(Launcher& launcher)
-{
-    constexpr int longestGrenadeTime = 7;
-    Settings& settings = launcher.settings;
-    if (settings.CorpseSeconds == 0) {
-        CheckBox& resurrect = launcher.controls.chkVYKOpts[3];
-        settings.ResurrectCorpses = false;
-        resurrect.setTicked(false);
-        resurrect.enabled = false;
-        launcher.controls.Corpse.colour = Colour::Accent;
-    }
-    settings.GrenadeTime = std::clamp(settings.GrenadeTime, 0, longestGrenadeTime);
 }
 
 } // namespace
@@ -82,28 +57,55 @@ void SetConfigAside(Launcher& launcher)
     launcher.files.remove(path);
 }
 
-void LoadSettings(Launcher& launcher)
+void UseDefaultSettings(Launcher& launcher)
 {
-    Settings& settings = launcher.settings;
+    const QString texturePath = launcher.settings.TexturePath;
+    launcher.settings = DefaultSettings();
+    launcher.settings.TexturePath = texturePath;
+    const QPoint centre = centred(launcher.window);
+    launcher.settings.WindowTop = centre.y();
+    launcher.settings.WindowLeft = centre.x();
+}
+
+ReadResult ReadStoredSettings(Launcher& launcher)
+{
     const FileSystem& files = launcher.files;
-    setDefaults(launcher);
-    settings.TexturePath = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"texpath.vyk"_s));
+    UseDefaultSettings(launcher);
+    launcher.settings.TexturePath
+        = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"texpath.vyk"_s));
     const QString archives
         = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"archives.vyk"_s));
     if (!archives.isEmpty())
         launcher.paths.ArchivesPath = archives;
-
-    ReadResult result = ReadResult::Stopped;
     try {
         if (files.fileExists(ConfigPath(launcher)))
-            result = ReadSettings(
-                settings, ReadLines(files, ConfigPath(launcher)), !launcher.startUp.RunningUnderWine);
+            return ReadSettings(launcher.settings, ReadLines(files, ConfigPath(launcher)),
+                !launcher.startUp.RunningUnderWine);
     } catch (const FileError&) {
         // What could not be read keeps its default.
     }
-    if (result == ReadResult::Corrupt)
+    return ReadResult::Stopped;
+}
+
+void CorrectSettings(Launcher& launcher)
+{
+    constexpr int longestGrenadeTime = 7;
+    Settings& settings = launcher.settings;
+    if (settings.CorpseSeconds == 0) {
+        CheckBox& resurrect = launcher.controls.chkVYKOpts[3];
+        settings.ResurrectCorpses = false;
+        resurrect.setTicked(false);
+        resurrect.enabled = false;
+        launcher.controls.Corpse.colour = Colour::Accent;
+    }
+    settings.GrenadeTime = std::clamp(settings.GrenadeTime, 0, longestGrenadeTime);
+}
+
+void LoadSettings(Launcher& launcher)
+{
+    if (ReadStoredSettings(launcher) == ReadResult::Corrupt)
         reportCorruptConfig(launcher);
-    adjust(launcher);
+    CorrectSettings(launcher);
 }
 
 void SaveSettings(Launcher& launcher)

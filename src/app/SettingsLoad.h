@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Launcher.h"
+#include "app/SettingsFile.h"
 
 // The settings of one run: from config.vyk at load, back to it at the end.
 
@@ -10,10 +11,20 @@ QString ConfigPath(const Launcher& launcher);
 // Throws FileError; then config.vyk is as it was.
 void SetConfigAside(Launcher& launcher);
 
-// Sets the defaults and reads texpath.vyk, archives.vyk and config.vyk. A corrupt config.vyk is set aside
-// with a message, and the launcher restarts: afterwards ShuttingDown is set. Throws FileError when it cannot
-// be set aside: a restart would only find it again.
+// Sets the defaults and reads texpath.vyk, archives.vyk and config.vyk; changes no file. What a corrupt
+// config.vyk said up to its bad line is in the settings. Returns how far config.vyk could be read.
+ReadResult ReadStoredSettings(Launcher& launcher);
+
+// Brings settings into their range, and what depends on them: no corpse fade means no resurrection, and
+// the grenade time is 0 to 7.
+void CorrectSettings(Launcher& launcher);
+
+// Reads the stored settings and corrects those out of their range. A corrupt config.vyk is set aside with
+// a message, and the launcher restarts: afterwards ShuttingDown is set.
 void LoadSettings(Launcher& launcher);
+
+// Every default; the window is centred.
+void UseDefaultSettings(Launcher& launcher);
 
 // Writes config.vyk whole. Throws FileError.
 void SaveSettings(Launcher& launcher);

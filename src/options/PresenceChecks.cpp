@@ -61,7 +61,8 @@ void CheckGraphicsPacks(Launcher& launcher)
         controls.HiResText.text = NativePath(launcher.settings.TexturePath);
         launcher.settings.HighResTextures = true;
     }
-    if (launcher.files.fileExists(data + u"dtex/detail.wad"_s) && !launcher.settings.HighResTextures)
+    const bool texturesUsed = launcher.settings.HighResTextures && textures.enabled;
+    if (launcher.files.fileExists(data + u"dtex/detail.wad"_s) && !texturesUsed)
         controls.chkGraphics[detailTextures].enabled = true;
     if (launcher.files.folderExists(data + u"Skyboxes"_s)) {
         CheckBox& box = controls.chkGraphics[skyboxes];

@@ -11,9 +11,9 @@ using Kind = FileError::Kind;
 
 namespace {
 
-const QString accessText
-    = u"   You appear to have restricted access with this user account, Keldrax        \r\n"
-      "    requires a UAC with a higher privilege level before it will run."_s;
+const QString accessText =
+    u"   You appear to have restricted access with this user account, Keldrax        \r\n"
+    "    requires a UAC with a higher privilege level before it will run."_s;
 const QString accessTitle = u"Restricted Window's User Account Control"_s;
 const QString unknownText = u"   Unable to run the VYKlauncher due to unknown error      \r\n"
                             "  please report error to the Keldrax development team."_s;
@@ -37,10 +37,10 @@ public:
             captionAtClaim = !launcher.startUp.WindowCaption.isEmpty();
         };
         return Main(launcher, arguments,
-            {.claimInstance = [=, this] { return note(u"claim"_s), placeIsFree; },
-                .activateRunningInstance = [=, this] { return note(u"activate"_s), otherAnswers; },
-                .claimInstanceWhenFree = [=] { note(u"claimWhenFree"_s); },
-                .showTips = [this] { window.calls << u"tips"_s; }});
+                    {.claimInstance = [=, this] { return note(u"claim"_s), placeIsFree; },
+                     .activateRunningInstance = [=, this] { return note(u"activate"_s), otherAnswers; },
+                     .claimInstanceWhenFree = [=] { note(u"claimWhenFree"_s); },
+                     .showTips = [this] { window.calls << u"tips"_s; }});
     }
 };
 
@@ -73,25 +73,15 @@ private Q_SLOTS:
         QVERIFY(!f.window.calls.contains(u"tips"_s));
     }
 
-    void commandLine_data()
-    {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<bool>("wine");
-        QTest::addColumn<QString>("claim");
-        QTest::newRow("wine") << u"/WINE"_s << true << u"claim"_s;
-        QTest::newRow("lower case") << u"/wine"_s << true << u"claim"_s;
-        QTest::newRow("restart") << u"/Restart"_s << false << u"claimWhenFree"_s;
-        QTest::newRow("both") << u"/WINE /RESTART"_s << false << u"claim"_s;
-        QTest::newRow("both, other order") << u"/RESTART /WINE"_s << false << u"claim"_s;
-        QTest::newRow("longer") << u"/WINES"_s << false << u"claim"_s;
-    }
     void commandLine()
     {
-        QFETCH(QString, arguments);
-        StartFixture f;
-        f.start(arguments);
-        QTEST(f.launcher.startUp.RunningUnderWine, "wine");
-        QTEST(f.window.calls.value(0), "claim");
+        for (const QString& arguments :
+             {u"/WINE"_s, u"/wine"_s, u"/Restart"_s, u"/WINE /RESTART"_s, u"/RESTART /WINE"_s, u"/WINES"_s}) {
+            StartFixture f;
+            f.start(arguments);
+            QCOMPARE(f.launcher.startUp.RunningUnderWine, arguments.toUpper() == u"/WINE"_s);
+            QCOMPARE(f.window.calls.value(0), arguments == u"/Restart"_s ? u"claimWhenFree"_s : u"claim"_s);
+        }
     }
 
     void secondStart()
@@ -108,33 +98,27 @@ private Q_SLOTS:
         QVERIFY(!f.installation.exists(u"VYKGames"_s));
     }
 
-    void requiredFiles_data()
-    {
-        QTest::addColumn<QStringList>("missing");
-        QTest::addColumn<QString>("reported");
-        QTest::newRow("engine") << QStringList{u"Keldrax"_s} << u"Keldrax.exe"_s;
-        QTest::newRow("tool") << QStringList{u"VYKgFiles"_s} << u"VYKgFiles.exe"_s;
-        QTest::newRow("zip") << QStringList{u"unzip32.dll"_s} << u"unzip32.dll"_s;
-        QTest::newRow("sound") << QStringList{u"fmodex.dll"_s} << u"fmodex.dll"_s;
-        QTest::newRow("zip before sound") << QStringList{u"fmodex.dll"_s, u"unzip32.dll"_s} << u"unzip32.dll"_s;
-        QTest::newRow("engine before tool") << QStringList{u"VYKgFiles"_s, u"Keldrax"_s} << u"Keldrax.exe"_s;
-    }
     void requiredFiles()
     {
-        QFETCH(QStringList, missing);
-        QFETCH(QString, reported);
-        StartFixture f;
-        f.setConfig("v9.1\r\n");
-        for (const QString& name : missing)
-            QVERIFY(QFile::remove(f.path(u"Bin/"_s + name)));
-        f.prompts.expectMessage();
-        QCOMPARE(f.start(), StartResult::Ended);
-        QCOMPARE(f.window.calls, QStringList({u"show"_s, u"hide"_s, u"endProgram"_s}));
-        QCOMPARE(f.prompts.texts, {reported + u" has not been detected - re-install Keldrax.    "_s});
-        QCOMPARE(f.prompts.titles, {u"Startup error"_s});
-        QCOMPARE(f.prompts.styles, {4096});
-        UnloadMainWindow(f.launcher);
-        QCOMPARE(f.config(), "v9.1\r\n"); // ended without saving
+        const std::pair<QStringList, QString> rows[] = {
+            {{u"Keldrax"_s, u"VYKgFiles"_s}, u"Keldrax.exe"_s},
+            {{u"VYKgFiles"_s, u"unzip32.dll"_s}, u"VYKgFiles.exe"_s},
+            {{u"unzip32.dll"_s, u"fmodex.dll"_s}, u"unzip32.dll"_s},
+            {{u"fmodex.dll"_s}, u"fmodex.dll"_s}};
+        for (const auto& [missing, reported] : rows) {
+            StartFixture f;
+            f.setConfig("v9.1\r\n");
+            for (const QString& name : missing)
+                QVERIFY(QFile::remove(f.path(u"Bin/"_s + name)));
+            f.prompts.expectMessage();
+            QCOMPARE(f.start(), StartResult::Ended);
+            QCOMPARE(f.window.calls, QStringList({u"show"_s, u"hide"_s, u"endProgram"_s}));
+            QCOMPARE(f.prompts.texts, {reported + u" has not been detected - re-install Keldrax.    "_s});
+            QCOMPARE(f.prompts.titles, {u"Startup error"_s});
+            QCOMPARE(f.prompts.styles, {4096});
+            UnloadMainWindow(f.launcher);
+            QCOMPARE(f.config(), "v9.1\r\n"); // ended without saving
+        }
     }
 
     void windowsProgramsCount()
@@ -145,38 +129,32 @@ private Q_SLOTS:
         QCOMPARE(CheckRequiredFiles(f.files, f.launcher.paths), QString());
     }
 
-    void failures_data()
-    {
-        QTest::addColumn<QString>("at");
-        QTest::addColumn<Kind>("kind");
-        QTest::addColumn<bool>("access");
-        QTest::newRow("write test") << u"Admin"_s << Kind::PermissionDenied << true;
-        QTest::newRow("write test, in use") << u"Admin"_s << Kind::InUse << true;
-        QTest::newRow("write test, in the way") << u"Admin"_s << Kind::Exists << true;
-        QTest::newRow("disk full") << u"Admin"_s << Kind::Other << false;
-        QTest::newRow("path not found") << u"Admin"_s << Kind::NotFound << false;
-        QTest::newRow("load") << u"VYKGames"_s << Kind::PermissionDenied << true;
-        QTest::newRow("load, other") << u"VYKGames"_s << Kind::Other << false;
-    }
     void failures()
     {
-        QFETCH(QString, at);
-        QFETCH(Kind, kind);
-        QFETCH(bool, access);
-        StartFixture f;
-        QFile::remove(f.path(u"Bin/fmodex.dll"_s));
-        if (at == u"VYKGames"_s)
-            f.installation.add(u"Bin/fmodex.dll"_s); // else: the write test comes before the file check
-        f.files.failOn(at, kind);
-        f.prompts.expectMessage();
-        QCOMPARE(f.start(), StartResult::Ended);
-        QCOMPARE(f.prompts.texts, {access ? accessText : unknownText});
-        QCOMPARE(f.prompts.titles, {access ? accessTitle : u"Unknown Error"_s});
-        QCOMPARE(f.prompts.styles, {access ? 48 : 16});
-        QCOMPARE(f.window.calls.last(), u"endProgram"_s);
-        QVERIFY(!f.window.shown);
-        UnloadMainWindow(f.launcher);
-        QVERIFY(!f.hasConfig());
+        const struct
+        {
+            QString at;
+            Kind kind;
+            bool access;
+        } rows[] = {{u"Admin"_s, Kind::PermissionDenied, true}, {u"Admin"_s, Kind::InUse, true},
+                    {u"Admin"_s, Kind::Exists, true},           {u"Admin"_s, Kind::NotFound, false},
+                    {u"Admin"_s, Kind::Other, false},           {u"VYKGames"_s, Kind::PermissionDenied, true},
+                    {u"VYKGames"_s, Kind::Other, false}};
+        for (const auto& [at, kind, access] : rows) {
+            StartFixture f;
+            if (at == u"Admin"_s) // the write test comes before the check of the files
+                QVERIFY(QFile::remove(f.path(u"Bin/fmodex.dll"_s)));
+            f.files.failOn(at, kind);
+            f.prompts.expectMessage();
+            QCOMPARE(f.start(), StartResult::Ended);
+            QCOMPARE(f.prompts.texts, {access ? accessText : unknownText});
+            QCOMPARE(f.prompts.titles, {access ? accessTitle : u"Unknown Error"_s});
+            QCOMPARE(f.prompts.styles, {access ? 48 : 16});
+            QCOMPARE(f.window.calls.last(), u"endProgram"_s);
+            QVERIFY(!f.window.shown);
+            UnloadMainWindow(f.launcher);
+            QVERIFY(!f.hasConfig());
+        }
     }
 
     void firstConfigLine_data()
@@ -212,8 +190,8 @@ private Q_SLOTS:
         if (!reset)
             return;
         QCOMPARE(f.prompts.texts,
-            {reason + u" required the launcher configurations to     \r\n"
-                      " be reset to the default settings, please reconfigure your settings. "_s});
+                 {reason + u" required the launcher configurations to     \r\n"
+                           " be reset to the default settings, please reconfigure your settings. "_s});
         QCOMPARE(f.prompts.titles, {u" Version update v9.1"_s});
         QCOMPARE(f.prompts.styles, {4096});
         QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), before);
@@ -238,8 +216,9 @@ private Q_SLOTS:
     void engineVersion()
     {
         StartFixture f;
-        for (const auto& [content, version] : {std::pair{"Keldrax v3.5\r\nmore"_ba, u"Keldrax v3.5"_s},
-                 std::pair{""_ba, u"Keldrax v2.2"_s}, std::pair{"\r\n"_ba, u"Keldrax v2.2"_s}}) {
+        for (const auto& [content, version] :
+             {std::pair{"Keldrax v3.5\r\nmore"_ba, u"Keldrax v3.5"_s}, std::pair{""_ba, u"Keldrax v2.2"_s},
+              std::pair{"\r\n"_ba, u"Keldrax v2.2"_s}}) {
             f.installation.add(u"VYKLaunch/Data/version.vyk"_s, content);
             QCOMPARE(ReadEngineVersion(f.files, f.launcher.paths), version);
         }

@@ -28,10 +28,7 @@ public:
     }
 
 private:
-    QString relative(QStringList paths) const
-    {
-        return paths.join(u'|').remove(installation.root() + u'/');
-    }
+    QString relative(QStringList paths) const { return paths.join(u'|').remove(installation.root() + u'/'); }
 };
 
 } // namespace

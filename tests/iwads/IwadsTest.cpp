@@ -30,42 +30,31 @@ class IwadsTest : public QObject
 
 private Q_SLOTS:
     // Each place is better than all after it: the IWAD is removed from one after the other.
-    void precedence_data()
-    {
-        QTest::addColumn<GameFamily>("family");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QStringList>("places");
-        const QStringList full{u"dollar"_s, u"."_s, u"Data"_s, u"Iwads"_s};
-        QTest::newRow("doom") << GameFamily::Doom << u"Doom.wad"_s << full;
-        QTest::newRow("doom2") << GameFamily::Doom2 << u"DOOM2.WAD"_s << full;
-        QTest::newRow("tnt") << GameFamily::Tnt << u"TnT.wad"_s << full;
-        QTest::newRow("plutonia") << GameFamily::Plutonia << u"plutonia.wad"_s << full;
-        QTest::newRow("shareware") << GameFamily::Shareware << u"Doom1.wad"_s
-                                   << QStringList{u"dollar"_s, u"Iwads"_s, u"Data"_s, u"."_s};
-    }
     void precedence()
     {
-        QFETCH(GameFamily, family);
-        QFETCH(QString, name);
-        QFETCH(QStringList, places);
-        IwadFixture f;
-        f.launcher.environment = {f.path(u"dollar"_s), f.path(u"plain"_s)};
-        places << u"nowhere"_s;
-        for (const QString& place : places + QStringList{u"plain"_s})
-            f.installation.add(place + u'/' + name);
-        for (const QString& place : places.first(places.size() - 1)) {
-            const QString file = QDir::cleanPath(place + u'/' + name);
-            QCOMPARE(f.search(family), file);
-            QVERIFY(QFile::remove(f.path(file)));
+        const QStringList fullGames{u"dollar"_s, u"."_s, u"Data"_s, u"Iwads"_s};
+        const QStringList shareware{u"dollar"_s, u"Iwads"_s, u"Data"_s, u"."_s};
+        for (const QString& name :
+             {u"Doom.wad"_s, u"DOOM2.WAD"_s, u"TnT.wad"_s, u"plutonia.wad"_s, u"Doom1.wad"_s}) {
+            const GameFamily family = FamilyOfIwad(name).value();
+            const QStringList places = family == GameFamily::Shareware ? shareware : fullGames;
+            IwadFixture f;
+            f.launcher.environment = {f.path(u"dollar"_s), f.path(u"plain"_s)};
+            for (const QString& place : places + QStringList{u"nowhere"_s, u"plain"_s})
+                f.installation.add(place + u'/' + name);
+            for (const QString& place : places) {
+                const QString file = QDir::cleanPath(place + u'/' + name);
+                QCOMPARE(f.search(family), file);
+                QVERIFY(QFile::remove(f.path(file)));
+            }
+            f.search(family); // the plain variable does not count while the other one's folder exists
+            QVERIFY(!f.iwads.anyKnown());
+            f.launcher.environment.dollarDoomWadDir += u"/gone"_s;
+            QCOMPARE(f.search(family), u"plain/"_s + name);
+            f.launcher.environment = {};
+            f.search(family);
+            QVERIFY(!f.iwads.anyKnown());
         }
-        QVERIFY(f.iwads.of(family).size() > 0);
-        f.search(family); // the plain variable does not count while the other one's folder exists
-        QVERIFY(f.iwads.of(family).isEmpty());
-        f.launcher.environment.dollarDoomWadDir += u"/gone"_s;
-        QCOMPARE(f.search(family), u"plain/"_s + name);
-        f.launcher.environment = {};
-        f.search(family);
-        QVERIFY(f.iwads.of(family).isEmpty());
     }
 
     void aFullListStopsTheSearch()
@@ -83,8 +72,8 @@ private Q_SLOTS:
     void build()
     {
         IwadFixture f;
-        for (const QString& name : {u"Doom1.wad"_s, u"Doom.wad"_s, u"Doom2.wad"_s, u"TNT.WAD"_s, u"Plutonia.wad"_s,
-                 u"Doom2.VYKgwa"_s, u"TNT.vykGWA"_s, u"Doom1.VYKgwa"_s})
+        for (const QString& name : {u"Doom1.wad"_s, u"Doom.wad"_s, u"Doom2.wad"_s, u"TNT.WAD"_s,
+                                    u"Plutonia.wad"_s, u"Doom2.VYKgwa"_s, u"TNT.vykGWA"_s, u"Doom1.VYKgwa"_s})
             f.installation.add(u"Data/"_s + name);
         QVERIFY(QFile::setPermissions(f.path(u"Data/Doom2.VYKgwa"_s), QFile::ReadOwner));
         f.build();
@@ -97,12 +86,14 @@ private Q_SLOTS:
         QVERIFY(!f.iwads.of(GameFamily::Shareware).isEmpty());
 
         SaveIwadList(f.iwads, f.files, f.launcher.paths);
-        QCOMPARE(f.installation.read(u"VYKLaunch/Data/iwads.cfg"_s),
-            QDir::toNativeSeparators(QStringList(f.iwads.ShowIwads.begin(), f.iwads.ShowIwads.end()).join(u"\r\n"_s)
-                + u"\r\n"_s).toLatin1());
+        QCOMPARE(
+            f.installation.read(u"VYKLaunch/Data/iwads.cfg"_s),
+            QDir::toNativeSeparators(
+                QStringList(f.iwads.ShowIwads.begin(), f.iwads.ShowIwads.end()).join(u"\r\n"_s) + u"\r\n"_s)
+                .toLatin1());
         QCOMPARE(DoomGameTitles(f.iwads, true),
-            QStringList({u"Shareware Doom"_s, u"Doom/Ultimate Doom"_s, u"Doom II"_s, u"The Plutonia Experiment"_s,
-                u"TNT - Final Doom"_s}));
+                 QStringList({u"Shareware Doom"_s, u"Doom/Ultimate Doom"_s, u"Doom II"_s,
+                              u"The Plutonia Experiment"_s, u"TNT - Final Doom"_s}));
         QCOMPARE(DoomGameTitles(f.iwads, false).value(1), u"DOOM/ULTIMATE DOOM"_s);
     }
 
@@ -120,11 +111,20 @@ private Q_SLOTS:
     {
         IwadFixture f;
         f.installation.add(u"Data/Doom2.wad"_s);
-        for (const QString& name : {u"Größe/DOOM2.WAD"_s, u"Größe/tnt.wad"_s, u"Größe/other.wad"_s, u"x/Doom.wad"_s})
+        for (const QString& name :
+             {u"Größe/DOOM2.WAD"_s, u"Größe/tnt.wad"_s, u"Größe/other.wad"_s, u"x/Doom.wad"_s})
             f.installation.add(name);
         const QByteArray root = f.installation.root().toLatin1();
-        f.setList(root + "\\Gr\xF6\xDF" "e\\doom2.wad\r\n" + root + "/gr\xF6\xDF" "e/TNT.WAD\r\n" + root
-            + "/Gr\xF6\xDF" "e/other.wad\r\n\r\n" + root + "/x/Doom.wad\r\n");
+        f.setList(root +
+                  "\\Gr\xF6\xDF"
+                  "e\\doom2.wad\r\n" +
+                  root +
+                  "/gr\xF6\xDF"
+                  "e/TNT.WAD\r\n" +
+                  root +
+                  "/Gr\xF6\xDF"
+                  "e/other.wad\r\n\r\n" +
+                  root + "/x/Doom.wad\r\n");
         f.build();
         QCOMPARE(f.iwads.of(GameFamily::Doom2), f.path(u"Data/Doom2.wad"_s)); // found by itself: wins
         QCOMPARE(f.iwads.of(GameFamily::Tnt), f.path(u"Größe/tnt.wad"_s));
@@ -135,29 +135,22 @@ private Q_SLOTS:
         QVERIFY(f.hasList());
     }
 
-    void uselessList_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("empty") << ""_ba;
-        QTest::newRow("empty lines") << "\r\n\r\n\r\n\r\n"_ba;
-        QTest::newRow("missing files") << "/nowhere/Doom.wad\r\nDoom2.wad\r\n"_ba;
-        QTest::newRow("folder") << "/tmp\r\n"_ba;
-        QTest::newRow("garbage") << QByteArray("\0\xff\x80/\0\n\r\n../../\r\n\"%s\"\0", 20);
-        QTest::newRow("long line") << QByteArray(100000, 'a');
-    }
     void uselessList()
     {
-        QFETCH(QByteArray, bytes);
-        IwadFixture f;
-        f.setList(bytes);
-        f.build();
-        QVERIFY(!f.iwads.anyKnown());
-        QVERIFY(!f.hasList());
+        for (const QByteArray& bytes :
+             {""_ba, "\r\n\r\n\r\n\r\n"_ba, "/nowhere/Doom.wad\r\nDoom2.wad\r\n"_ba, "/tmp\r\n"_ba,
+              QByteArray("\0\xff\x80/\0\n\r\n../../\r\n\"%s\"\0", 20), QByteArray(100000, 'a')}) {
+            IwadFixture f;
+            f.setList(bytes);
+            f.build();
+            QVERIFY(!f.iwads.anyKnown());
+            QVERIFY(!f.hasList());
 
-        f.setList(bytes);
-        f.files.failOn(u"iwads.cfg"_s, FileError::Kind::PermissionDenied);
-        f.build(); // one that cannot be deleted is no failure either
-        QVERIFY(f.hasList());
+            f.setList(bytes);
+            f.files.failOn(u"iwads.cfg"_s, FileError::Kind::PermissionDenied);
+            f.build(); // one that cannot be deleted is no failure either
+            QVERIFY(f.hasList());
+        }
     }
 
     void missingOnlyOutsideTheStandardPlaces()

@@ -1,1 +1,185 @@
 #include "tools/VYKplay/Play.h"
+
+#include "app/SettingsControls.h"
+#include "app/SettingsLoad.h"
+#include "app/StartUp.h"
+#include "catalogue/GameLists.h"
+#include "launch/LaunchButton.h"
+#include "options/PresenceChecks.h"
+#include "platform/DiskFileSystem.h"
+#include "platform/Paths.h"
+#include "platform/ReadOnlyFileSystem.h"
+#include "platform/SystemProcesses.h"
+#include "platform/Text.h"
+#include "tools/VYKplay/ConsoleServices.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int done = 0;
+constexpr int refused = 1;
+constexpr int wrongUsage = 2;
+
+constexpr int installedGames = 0;
+constexpr int doomGames = 1;
+constexpr int zipLibrary = 2;
+
+// The launcher's state as its window would have loaded it, except that nothing is selected.
+void load(Launcher& launcher, QTextStream& err)
+{
+    launcher.font = LoadFontSetting(launcher.files, launcher.paths.LaunchPath + u"font.vyk"_s);
+    const ReadResult result = ReadStoredSettings(launcher);
+    const bool otherVersion = !SameName(launcher.settings.LauncherVersion, DefaultSettings().LauncherVersion);
+    if (result == ReadResult::Corrupt || otherVersion) {
+        err << "config.vyk cannot be read: the default settings are used." << Qt::endl;
+        UseDefaultSettings(launcher);
+    }
+    CorrectSettings(launcher);
+    launcher.modelPacks = FindModelPacks(launcher.files, launcher.paths);
+    BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
+    ApplySettingsToControls(launcher.settings, launcher.controls);
+    if (launcher.settings.Skill == 0)
+        launcher.launch.StartChoice = StartChoice::NewGame;
+    CheckPacksAtLoad(launcher);
+}
+
+void fill(Launcher& launcher, int view)
+{
+    if (view == installedGames)
+        FillInstalledGamesList(launcher);
+    else if (view == doomGames)
+        FillDoomGamesList(launcher);
+    else
+        FillArchiveList(launcher, launcher.paths.ArchivesPath);
+}
+
+QList<int> viewsOf(const Arguments& arguments)
+{
+    return arguments.view ? QList<int>{*arguments.view} : QList<int>{doomGames, installedGames, zipLibrary};
+}
+
+// Selects the game in the first view that has it.
+bool selectGame(Launcher& launcher, const Arguments& arguments)
+{
+    Settings& settings = launcher.settings;
+    for (const int view : viewsOf(arguments)) {
+        fill(launcher, view);
+        const ListBox& games = launcher.controls.PwadList;
+        const int index = games.find(arguments.game);
+        if (index < 0)
+            continue;
+        QString& remembered = view == installedGames ? settings.SelectedGame
+            : view == doomGames                      ? settings.SelectedDoomGame
+                                                     : settings.SelectedArchive;
+        remembered = games.entry(index);
+        OptionUdirClick(launcher, view);
+        return true;
+    }
+    return false;
+}
+
+int listGames(Launcher& launcher, const Arguments& arguments, QTextStream& out)
+{
+    for (const int view : viewsOf(arguments)) {
+        fill(launcher, view);
+        for (const QString& game : launcher.controls.PwadList.entries())
+            out << game << Qt::endl;
+    }
+    return done;
+}
+
+int listMaps(const Launcher& launcher, QTextStream& out)
+{
+    for (const QString& map : launcher.controls.MapList.entries())
+        out << map << Qt::endl;
+    return done;
+}
+
+// Chooses the start as a player's clicks would; false when the map or savegame is not there.
+bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& err)
+{
+    Controls& controls = launcher.controls;
+    if (arguments.skill != 0 || arguments.newGame)
+        controls.SkillsLevel[1].select(arguments.skill);
+    if (!arguments.map.isEmpty()) {
+        const int map = controls.MapList.find(arguments.map);
+        if (map < 0)
+            err << "There is no map \"" << arguments.map << "\" in " << arguments.game << '.' << Qt::endl;
+        controls.MapList.click(map);
+        return map >= 0;
+    }
+    if (!arguments.slot.isEmpty()) {
+        const ListBox& saves = controls.SaveGameList;
+        for (int i = 0; i < saves.count(); ++i) {
+            if (saves.entry(i).left(1) == arguments.slot) {
+                controls.SaveGameList.click(i);
+                return true;
+            }
+        }
+        err << "There is no savegame in slot \"" << arguments.slot << "\" of " << arguments.game << '.' << Qt::endl;
+        return false;
+    }
+    return true;
+}
+
+int play(Launcher& launcher, const Arguments& arguments, QTextStream& err)
+{
+    if (!launcher.selection.DoomGameSelected) {
+        err << "Only the Doom games can be started from here so far." << Qt::endl;
+        return refused;
+    }
+    if (!chooseStart(launcher, arguments, err))
+        return refused;
+    return LaunchSelectedGame(launcher) == LaunchResult::Started ? done : refused;
+}
+
+int run(Launcher& launcher, const Arguments& arguments, QTextStream& out, QTextStream& err)
+{
+    const QString missing = CheckRequiredFiles(launcher.files, launcher.paths);
+    if (!missing.isEmpty()) {
+        err << missing << " has not been detected - re-install Keldrax." << Qt::endl;
+        return refused;
+    }
+    load(launcher, err);
+    if (arguments.command == Arguments::Command::List)
+        return listGames(launcher, arguments, out);
+    if (!selectGame(launcher, arguments)) {
+        err << "There is no game \"" << arguments.game << "\"." << Qt::endl;
+        return refused;
+    }
+    return arguments.command == Arguments::Command::Maps ? listMaps(launcher, out)
+                                                         : play(launcher, arguments, err);
+}
+
+} // namespace
+
+int RunVYKplay(const Arguments& arguments, const QString& root, QTextStream& out, QTextStream& err)
+{
+    if (!arguments.wrong.isEmpty()) {
+        err << arguments.wrong << "\n\n" << UsageText() << Qt::flush;
+        return wrongUsage;
+    }
+    if (arguments.command == Arguments::Command::Help) {
+        out << UsageText() << Qt::flush;
+        return done;
+    }
+    DiskFileSystem disk;
+    ReadOnlyFileSystem readOnly(disk);
+    SystemProcesses system(disk);
+    PrintingProcesses printing(system, out);
+    ConsolePrompts prompts(err);
+    NoWindow window;
+
+    // Only a real launch changes anything.
+    const bool starts = arguments.command == Arguments::Command::Play && !arguments.dryRun;
+    FileSystem& files = starts ? static_cast<FileSystem&>(disk) : readOnly;
+    Processes& processes = starts ? static_cast<Processes&>(system) : printing;
+    Launcher launcher(files, processes, prompts, window, root);
+    try {
+        return run(launcher, arguments, out, err);
+    } catch (const FileError& error) {
+        err << error.what() << Qt::endl;
+        return refused;
+    }
+}

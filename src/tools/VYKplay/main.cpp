@@ -1,1 +1,17 @@
-int main() { return 0; }
+#include "app/InstallationPaths.h"
+#include "tools/VYKplay/Play.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const Arguments arguments = ParseArguments(QCoreApplication::arguments().mid(1));
+    const QString root = arguments.root.isEmpty()
+        ? InstallationPaths::rootOf(QCoreApplication::applicationFilePath())
+        : QDir(arguments.root).absolutePath();
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    return RunVYKplay(arguments, root, out, err);
+}

@@ -1,0 +1,103 @@
+#include "tools/VYKplay/Arguments.h"
+
+#include <QCommandLineParser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const struct
+{
+    const char16_t* name;
+    int view;
+} views[] = {{u"installed", 0}, {u"doom", 1}, {u"zips", 2}};
+
+std::optional<int> viewNamed(const QString& name)
+{
+    for (const auto& row : views)
+        if (name.compare(QString::fromUtf16(row.name), Qt::CaseInsensitive) == 0)
+            return row.view;
+    return std::nullopt;
+}
+
+Arguments wrong(const QString& what)
+{
+    Arguments arguments;
+    arguments.wrong = what;
+    return arguments;
+}
+
+} // namespace
+
+Arguments ParseArguments(const QStringList& given)
+{
+    const QCommandLineOption map(u"map"_s, {}, u"MAP"_s), save(u"save"_s, {}, u"SLOT"_s), newGame(u"new"_s),
+        skill(u"skill"_s, {}, u"1-5"_s), dryRun(u"dry-run"_s), view(u"view"_s, {}, u"VIEW"_s),
+        root(u"root"_s, {}, u"DIR"_s), help(QStringList{u"h"_s, u"help"_s});
+    QCommandLineParser parser;
+    parser.addOptions({map, save, newGame, skill, dryRun, view, root, help});
+    if (!parser.parse(QStringList{u"VYKplay"_s} + given))
+        return wrong(parser.errorText());
+    Arguments arguments;
+    if (parser.isSet(help))
+        return arguments;
+
+    QStringList words = parser.positionalArguments();
+    if (words.isEmpty())
+        return wrong(u"Say what to do: list, maps or play."_s);
+    const QString command = words.takeFirst();
+    arguments.root = parser.value(root);
+    if (parser.isSet(view)) {
+        arguments.view = viewNamed(parser.value(view));
+        if (!arguments.view)
+            return wrong(u"There is no view \"%1\"."_s.arg(parser.value(view)));
+    }
+
+    const bool playOptions
+        = parser.isSet(map) || parser.isSet(save) || parser.isSet(newGame) || parser.isSet(skill) || parser.isSet(dryRun);
+    if (command != u"play" && playOptions)
+        return wrong(u"--map, --save, --new, --skill and --dry-run belong to play."_s);
+
+    if (command == u"list") {
+        arguments.command = Arguments::Command::List;
+        if (words.size() > 1)
+            return wrong(u"list takes one view at the most."_s);
+        if (!words.isEmpty() && !(arguments.view = viewNamed(words.first())))
+            return wrong(u"There is no view \"%1\"."_s.arg(words.first()));
+        return arguments;
+    }
+    if (command != u"maps" && command != u"play")
+        return wrong(u"There is no command \"%1\"."_s.arg(command));
+    arguments.command = command == u"maps" ? Arguments::Command::Maps : Arguments::Command::Play;
+    if (words.size() != 1)
+        return wrong(u"%1 takes one game; put a name with blanks into quotes."_s.arg(command));
+    arguments.game = words.first();
+
+    arguments.map = parser.value(map);
+    arguments.slot = parser.value(save);
+    arguments.newGame = parser.isSet(newGame);
+    arguments.dryRun = parser.isSet(dryRun);
+    if (parser.isSet(map) + parser.isSet(save) + parser.isSet(newGame) > 1)
+        return wrong(u"Choose one of --map, --save and --new."_s);
+    if (parser.isSet(skill)) {
+        arguments.skill = parser.value(skill).toInt();
+        if (arguments.skill < 1 || arguments.skill > 5)
+            return wrong(u"--skill takes a number from 1 to 5."_s);
+        if (arguments.newGame)
+            return wrong(u"--new starts the game as the engine does, without a skill."_s);
+    }
+    return arguments;
+}
+
+QString UsageText()
+{
+    return u"VYKplay list [doom|installed|zips]\n"
+           "VYKplay maps GAME\n"
+           "VYKplay play GAME [--map MAP | --save SLOT | --new] [--skill 1-5] [--dry-run]\n"
+           "\n"
+           "  --view doom|installed|zips  where to look for GAME (else the first that has it)\n"
+           "  --root DIR                  the installation (else the one this program lies in)\n"
+           "  --dry-run                   print the command line that would be started\n"
+           "\n"
+           "Names are without regard to case. Exit status: 0 done, 1 refused, 2 wrong usage.\n"_s;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStringList>
+
+#include <optional>
+
+// What the console program was asked for.
+struct Arguments
+{
+    enum class Command { List, Maps, Play, Help };
+
+    Command command = Command::Help;
+    QString game; // of Maps and Play
+    std::optional<int> view; // 0 installed games, 1 Doom games, 2 zip library
+    QString root; // the installation; empty: the one the program lies in
+
+    // Of Play.
+    QString map, slot;
+    bool newGame = false;
+    int skill = 0; // 1 to 5; 0 as the settings say
+    bool dryRun = false;
+
+    QString wrong; // what is wrong with the arguments; empty when nothing is
+};
+
+// `arguments` is without the program's name.
+Arguments ParseArguments(const QStringList& arguments);
+
+QString UsageText();

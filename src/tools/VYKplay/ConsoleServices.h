@@ -1,0 +1,61 @@
+#pragma once
+
+#include "app/MainWindowHost.h"
+#include "platform/Processes.h"
+#include "ui/Prompts.h"
+
+#include <QTextStream>
+
+// Messages go to a stream; a question is answered with No and a file dialog with Cancel.
+class ConsolePrompts : public Prompts
+{
+public:
+    explicit ConsolePrompts(QTextStream& stream) : m_stream(stream) {}
+
+    int MsgboxPos(const QString& text, int style, const QString& title) override;
+    QString chooseFile(const FileQuestion&) override { return {}; }
+    bool openWithShell(const QString&) override { return false; }
+
+private:
+    QTextStream& m_stream;
+};
+
+// There is no window: the settings keep the position they have.
+class NoWindow : public MainWindowHost
+{
+public:
+    QSize screenSize() const override { return {}; }
+    QSize size() const override { return {}; }
+    QPoint position() const override { return {}; }
+    void moveTo(QPoint) override {}
+    bool isInNormalState() const override { return false; }
+    bool isShown() const override { return false; }
+    void show() override {}
+    void hide() override {}
+    void minimise() override {}
+    void bringToFront() override {}
+    void refresh() override {}
+    void showIwadForm() override {}
+    void endProgram() override {}
+};
+
+// Runs console tools, but prints a command line in place of starting it.
+class PrintingProcesses : public Processes
+{
+public:
+    PrintingProcesses(Processes& processes, QTextStream& stream) : m_processes(processes), m_stream(stream) {}
+
+    Captured capture(const QString& commandLine, const QString& folder) override
+    {
+        return m_processes.capture(commandLine, folder);
+    }
+    bool start(const QString& commandLine, const QString&) override
+    {
+        m_stream << commandLine << Qt::endl;
+        return true;
+    }
+
+private:
+    Processes& m_processes;
+    QTextStream& m_stream;
+};
