@@ -20,7 +20,8 @@ ReadResult ReadStoredSettings(Launcher& launcher);
 void CorrectSettings(Launcher& launcher);
 
 // Reads the stored settings and corrects those out of their range. A corrupt config.vyk is set aside with
-// a message, and the launcher restarts: afterwards ShuttingDown is set.
+// a message, and the launcher restarts: afterwards ShuttingDown is set. Throws FileError when it cannot be
+// set aside: a restart would only find it again.
 void LoadSettings(Launcher& launcher);
 
 // Every default; the window is centred.

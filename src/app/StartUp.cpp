@@ -11,6 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct MissingComponent : std::exception
+{
+};
+
 const QString thisVersion = u"v9.1"_s;
 const QString defaultEngineVersion = u"Keldrax v2.2"_s;
 
@@ -74,6 +78,8 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
         return StartResult::Ended;
     }
 
+    if (!services.componentsPresent())
+        throw MissingComponent();
     LoadMainWindow(launcher);
     if (startUp.ShuttingDown)
         return StartResult::Ended;
@@ -83,17 +89,27 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
     return StartResult::Running;
 }
 
-void reportStartUpError(Launcher& launcher, bool noAccess)
+enum class StartUpError { NoAccess, MissingComponent, Unknown };
+
+void reportStartUpError(Launcher& launcher, StartUpError error)
 {
-    if (noAccess)
-        launcher.prompts.MsgboxPos(
-            u"   You appear to have restricted access with this user account, Keldrax        \r\n"
-            "    requires a UAC with a higher privilege level before it will run."_s,
-            Msg::Ok + Msg::Exclamation, u"Restricted Window's User Account Control"_s);
-    else
-        launcher.prompts.MsgboxPos(u"   Unable to run the VYKlauncher due to unknown error      \r\n"
-                                   "  please report error to the Keldrax development team."_s,
-            Msg::Ok + Msg::Critical, u"Unknown Error"_s);
+    const auto report = [&](const QString& text, int icon, const QString& title) {
+        launcher.prompts.MsgboxPos(text, Msg::Ok + icon, title);
+    };
+    switch (error) {
+    case StartUpError::NoAccess:
+        return report(u"   You appear to have restricted access with this user account, Keldrax        \r\n"
+                      "    requires a UAC with a higher privilege level before it will run."_s,
+            Msg::Exclamation, u"Restricted Window's User Account Control"_s);
+    case StartUpError::MissingComponent:
+        return report(u"   Unable to run the VYKlauncher due to missing or unregistered       \r\n"
+                      "   dependencies, re-install the program using the Keldrax setup."_s,
+            Msg::Critical, u"Installation error"_s);
+    case StartUpError::Unknown:
+        return report(u"   Unable to run the VYKlauncher due to unknown error      \r\n"
+                      "  please report error to the Keldrax development team."_s,
+            Msg::Critical, u"Unknown Error"_s);
+    }
 }
 
 } // namespace
@@ -104,9 +120,12 @@ StartResult Main(Launcher& launcher, const QString& arguments, const StartUpServ
         return start(launcher, arguments, services);
     } catch (const FileError& error) {
         using enum FileError::Kind;
-        reportStartUpError(launcher, error.kind() != Other && error.kind() != NotFound);
+        const bool noAccess = error.kind() != Other && error.kind() != NotFound;
+        reportStartUpError(launcher, noAccess ? StartUpError::NoAccess : StartUpError::Unknown);
+    } catch (const MissingComponent&) {
+        reportStartUpError(launcher, StartUpError::MissingComponent);
     } catch (const std::exception&) {
-        reportStartUpError(launcher, false);
+        reportStartUpError(launcher, StartUpError::Unknown);
     }
     launcher.startUp.ShuttingDown = true;
     launcher.window.endProgram();

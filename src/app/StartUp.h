@@ -11,6 +11,7 @@ struct StartUpServices
     std::function<bool()> claimInstance;
     std::function<bool()> activateRunningInstance; // false when it does not answer
     std::function<void()> claimInstanceWhenFree; // a restart: the old launcher is just ending
+    std::function<bool()> componentsPresent; // what the program needs of its libraries at run time
     std::function<void()> showTips;
 };
 

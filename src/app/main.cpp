@@ -6,6 +6,7 @@
 #include "ui/PromptsView.h"
 
 #include <QApplication>
+#include <QImageReader>
 
 int main(int argc, char** argv)
 {
@@ -25,6 +26,7 @@ int main(int argc, char** argv)
         .claimInstance = [&] { return instance.claim(activate); },
         .activateRunningInstance = [&] { return instance.activateRunning(); },
         .claimInstanceWhenFree = [&] { instance.claimWhenFree(activate); },
+        .componentsPresent = [] { return QImageReader::supportedImageFormats().contains("jpg"); },
         .showTips = [] {},
     };
     const QString arguments = QApplication::arguments().mid(1).join(u' ');

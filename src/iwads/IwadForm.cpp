@@ -82,12 +82,16 @@ QFrame* IwadForm::warningFrame()
     frame->setMinimumWidth(460);
     auto* rows = new QVBoxLayout(frame);
     rows->setContentsMargins(0, 0, 0, 8);
+    rows->setSpacing(0);
     for (const auto& row : warningLabels) {
         // A flat button, so that the help opens from the keyboard too.
         auto* label = new QPushButton(QString::fromUtf16(row.text));
         label->setObjectName(u"Warning_"_s + QString::number(row.index));
         label->setFlat(true);
         label->setAutoDefault(false);
+        QFont font = label->font();
+        font.setBold(row.index == 0);
+        label->setFont(font);
         label->setFocusPolicy(row.index == 0 ? Qt::TabFocus : Qt::NoFocus);
         connect(label, &QPushButton::clicked, this, [this] { m_dialog.openHelp(); });
         rows->addWidget(label, 0, Qt::AlignLeft);

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr size_t highResTextures = 1; // chkMain
-constexpr size_t detailTextures = 2; // chkGraphics
+constexpr size_t detailTextures = 2;  // chkGraphics
 constexpr size_t skyboxes = 3;
 constexpr size_t highResPatches = 4;
 constexpr size_t soundPack = 6; // chkSound
@@ -18,9 +18,8 @@ const QString notInstalled = u"Not installed or the specified path is invalid"_s
 bool patchesBesideTextures(const Launcher& launcher)
 {
     const QString path = launcher.settings.TexturePath;
-    return !path.isEmpty()
-        && (launcher.files.folderExists(path + u"/Patches"_s)
-            || launcher.files.folderExists(FolderOf(path) + u"/Patches"_s));
+    return !path.isEmpty() && (launcher.files.folderExists(path + u"/Patches"_s) ||
+                               launcher.files.folderExists(FolderOf(path) + u"/Patches"_s));
 }
 
 } // namespace
@@ -31,9 +30,8 @@ bool TexturePathValid(Launcher& launcher)
     QString& path = launcher.settings.TexturePath;
     if (!files.folderExists(path))
         path = WithSlashes(launcher.controls.HiResText.text);
-    if (!path.isEmpty()
-        && (files.folderExists(path + u"/Textures"_s)
-            || (SameName(FileNameOf(path), u"Textures"_s) && files.folderExists(path))))
+    if (!path.isEmpty() && (files.folderExists(path + u"/Textures"_s) ||
+                            (SameName(FileNameOf(path), u"Textures"_s) && files.folderExists(path))))
         return true;
     const QString own = launcher.paths.RootPath + u"/Data/Textures"_s;
     if (!files.folderExists(own))
@@ -75,8 +73,8 @@ void CheckGraphicsPacks(Launcher& launcher)
 void CheckSoundPack(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked()
-        && launcher.files.fileExists(launcher.paths.RootPath + u"/Data/hv_doom_sfx.wad"_s))
+    if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked() &&
+        launcher.files.fileExists(launcher.paths.RootPath + u"/Data/hv_doom_sfx.wad"_s))
         controls.chkSound[soundPack].enabled = true;
 }
 

@@ -48,8 +48,13 @@ void RefreshSaveGames(Launcher& launcher)
     ListBox& list = launcher.controls.SaveGameList;
     const bool wasChosen = list.selected() >= 0;
     ListSaveGames(launcher);
-    if (wasChosen)
-        list.startAs(entryOfSlot(list, launcher.launch.SaveSlot));
+    if (!wasChosen)
+        return;
+    list.startAs(entryOfSlot(list, launcher.launch.SaveSlot));
+    if (list.selected() < 0) { // it is gone: start from a map again
+        launcher.launch.SaveSlot.clear();
+        SetMapFocus(launcher);
+    }
 }
 
 void RestoreLastSavegame(Launcher& launcher)

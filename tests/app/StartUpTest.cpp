@@ -28,6 +28,7 @@ public:
     bool otherAnswers = true;
     bool loadedAtClaim = false;
     bool captionAtClaim = false;
+    bool hasComponents = true;
 
     StartResult start(const QString& arguments = {})
     {
@@ -40,6 +41,7 @@ public:
                     {.claimInstance = [=, this] { return note(u"claim"_s), placeIsFree; },
                      .activateRunningInstance = [=, this] { return note(u"activate"_s), otherAnswers; },
                      .claimInstanceWhenFree = [=] { note(u"claimWhenFree"_s); },
+                     .componentsPresent = [this] { return hasComponents; },
                      .showTips = [this] { window.calls << u"tips"_s; }});
     }
 };
@@ -119,6 +121,20 @@ private Q_SLOTS:
             UnloadMainWindow(f.launcher);
             QCOMPARE(f.config(), "v9.1\r\n"); // ended without saving
         }
+    }
+
+    void aMissingComponentEndsTheStart()
+    {
+        StartFixture f;
+        f.hasComponents = false;
+        f.prompts.expectMessage();
+        QCOMPARE(f.start(), StartResult::Ended);
+        QCOMPARE(f.prompts.titles, {u"Installation error"_s});
+        QCOMPARE(f.prompts.texts,
+            {u"   Unable to run the VYKlauncher due to missing or unregistered       \r\n"
+             "   dependencies, re-install the program using the Keldrax setup."_s});
+        QCOMPARE(f.prompts.styles, {16});
+        QVERIFY(!f.window.shown);
     }
 
     void windowsProgramsCount()

@@ -155,7 +155,8 @@ private Q_SLOTS:
         addSavegames(game);
         Launcher& launcher = game.launcher;
         const Controls& controls = launcher.controls;
-        QCOMPARE(controls.SaveGameList.entries(), (QStringList{u"0 - Start, 'gun'"_s, u"7 - Before the boss"_s}));
+        QCOMPARE(controls.SaveGameList.entries(),
+                 (QStringList{u"0 - Start, 'gun'"_s, u"7 - Before the boss"_s}));
         QCOMPARE(controls.SaveGameList.selected(), -1);
         game.pickSavegame(u"7 - Before the boss"_s);
         QCOMPARE(controls.MapList.selected(), -1);
@@ -174,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(launcher.launch.StartChoice, StartChoice::ChosenSavegame);
         QCOMPARE(controls.MapList.selected(), -1);
 
-        // After a game the slot stays chosen, wherever it is listed now; one that is gone is chosen no more.
+        // After a game the slot stays chosen, wherever it is listed now.
         game.installation.add(u"UserSG/doom2/savegame/KeldraxSav1.vyksg"_s, "New\0"_ba);
         RefreshSaveGames(launcher);
         QCOMPARE(controls.SaveGameList.count(), 3);

@@ -53,8 +53,8 @@ private Q_SLOTS:
         game.pickMap(u"MAP31"_s);
         launcher.controls.edCustom.text = u"-nomonsters \"a b\" -fast"_s;
         press(game);
-        QCOMPARE(game.processes.lastCommandLine(), engine + u" -Doom2 "_s + options +
-                     u"-sk 4 -wp 31 -nomonsters \"a b\" -fast "_s);
+        QCOMPARE(game.processes.lastCommandLine(),
+                 engine + u" -Doom2 "_s + options + u"-sk 4 -wp 31 -nomonsters \"a b\" -fast "_s);
         QCOMPARE(game.installation.read(u"VYKLaunch/launch.log"_s),
                  game.processes.lastCommandLine().toLatin1() + "\r\n");
 
@@ -166,8 +166,8 @@ private Q_SLOTS:
             launcher.controls.ExitOption.select(mode);
             game.prompts.expectMessage();
             press(game);
-            QCOMPARE(game.prompts.texts.last(), u"Cannot execute! The command line was:\r\n"_s +
-                                                    engine + u" -Doom2 "_s + options);
+            QCOMPARE(game.prompts.texts.last(),
+                     u"Cannot execute! The command line was:\r\n"_s + engine + u" -Doom2 "_s + options);
             QCOMPARE(game.prompts.titles.last(), QString());
             QCOMPARE(game.prompts.styles.last(), Msg::Ok);
             QCOMPARE(game.window.calls.last(), u"bringToFront"_s);

@@ -1,6 +1,7 @@
 // The engine's option switches: whole lines, each row's condition, and what no state may break.
 #include "launch/SwitchTable.h"
 
+#include "app/SettingsTable.h"
 #include "platform/Paths.h"
 #include "tests/support/LauncherFixture.h"
 
@@ -16,7 +17,7 @@ struct Case
     LaunchPath path = LaunchPath::CommercialGame;
     bool scripted = false, models = false, lateWeapons = false;
     int check = 0;
-    QString autoPlaylist;
+    QString autoPlaylist = {};
 
     Settings& set = launcher.settings;
     Controls& box = launcher.controls;
@@ -30,6 +31,17 @@ using Change = void (*)(Case&);
 const auto C = LaunchPath::CommercialGame;
 const auto I = LaunchPath::InstalledGame;
 
+QList<CheckBox*> boxesOfPacks(Controls& b)
+{
+    return {&b.chkGraphics[2],  &b.chkGraphics[3],
+            &b.chkGraphics[4],  &b.chkSound[6],
+            &b.chkSound[9],     &b.chkSound[10],
+            &b.chkEffects[3],   &b.ChkModelOpts[1],
+            &b.ChkModelOpts[3], &b.chkAltModels[0],
+            &b.chkAltModels[1], &b.chkAltModels[2],
+            &b.chkAltModels[3], &b.ChkGL};
+}
+
 // Nothing asks for a switch but the channels and the console's two fixed commands.
 void quiet(Case& c)
 {
@@ -37,11 +49,11 @@ void quiet(Case& c)
     s.HighResPatches = s.HighResTextures = s.SplashEffects = true;
     Controls& b = c.box;
     b.Corpse.text = u"0"_s;
-    for (CheckBox* box : {&b.chkGraphics[2], &b.chkGraphics[3], &b.chkGraphics[4], &b.chkSound[6],
-                          &b.chkSound[9], &b.chkSound[10], &b.chkEffects[3], &b.ChkModelOpts[1],
-                          &b.ChkModelOpts[3], &b.chkAltModels[0], &b.chkAltModels[1], &b.chkAltModels[2],
-                          &b.chkAltModels[3], &b.ChkGL})
+    for (CheckBox* box : boxesOfPacks(b))
         box->enabled = true;
+    b.cbScaler.enabled = true;
+    s.PlaylistName = u"rock"_s;
+    c.autoPlaylist = u"metal"_s;
     b.chkAltModels[0].startAs(1);
     b.chkAltModels[3].startAs(1);
     c.launcher.launch = {};
@@ -52,16 +64,34 @@ void loud(Case& c)
 {
     quiet(c);
     Settings& s = c.set;
-    for (bool Settings::*option :
-         {&Settings::KelspackWeapons, &Settings::KelspackAlternative, &Settings::TovrensReplacements,
-          &Settings::HiResSoundPack, &Settings::Sound3D, &Settings::ManualPlaylist, &Settings::AutoPlaylist,
-          &Settings::IgnorePlaylistIfCustomMusic, &Settings::ForceFmodMidi, &Settings::NoForcedModels,
-          &Settings::ExtraFx, &Settings::PistolZombies, &Settings::DisableMouse, &Settings::MonsterRespawn,
-          &Settings::NoSameTypeInfighting, &Settings::NoLostSoulInfighting, &Settings::GrenadeLauncher,
-          &Settings::DisableJoystick, &Settings::Skyboxes, &Settings::ResurrectCorpses,
-          &Settings::RicochetSetting, &Settings::DynamicLighting, &Settings::GunSmoke,
-          &Settings::FastMonsters, &Settings::Verbose, &Settings::DevelopmentMode, &Settings::NoObjects,
-          &Settings::Light})
+    for (bool Settings::*option : {&Settings::KelspackWeapons,
+                                   &Settings::KelspackAlternative,
+                                   &Settings::TovrensReplacements,
+                                   &Settings::HiResSoundPack,
+                                   &Settings::Sound3D,
+                                   &Settings::ManualPlaylist,
+                                   &Settings::AutoPlaylist,
+                                   &Settings::IgnorePlaylistIfCustomMusic,
+                                   &Settings::ForceFmodMidi,
+                                   &Settings::NoForcedModels,
+                                   &Settings::ExtraFx,
+                                   &Settings::PistolZombies,
+                                   &Settings::DisableMouse,
+                                   &Settings::MonsterRespawn,
+                                   &Settings::NoSameTypeInfighting,
+                                   &Settings::NoLostSoulInfighting,
+                                   &Settings::GrenadeLauncher,
+                                   &Settings::DisableJoystick,
+                                   &Settings::Skyboxes,
+                                   &Settings::ResurrectCorpses,
+                                   &Settings::RicochetSetting,
+                                   &Settings::DynamicLighting,
+                                   &Settings::GunSmoke,
+                                   &Settings::FastMonsters,
+                                   &Settings::Verbose,
+                                   &Settings::DevelopmentMode,
+                                   &Settings::NoObjects,
+                                   &Settings::Light})
         s.*option = true;
     s.HighResPatches = s.SplashEffects = false;
     s.AudioChannels = 64;
@@ -71,9 +101,7 @@ void loud(Case& c)
     s.SmokeMode = 1;
     s.Skill = 3;
     s.LightLevel = 77;
-    s.PlaylistName = u"rock"_s;
     s.TexturePath = c.launcher.paths.RootPath + u"/Own Textures"_s;
-    c.autoPlaylist = u"metal"_s;
     c.box.HiResText.text = NativePath(s.TexturePath);
     c.box.Corpse.text = u"9"_s;
     c.launcher.launch.RicochetOn = true;
@@ -134,15 +162,16 @@ private Q_SLOTS:
         basicDoom(basic);
         const QString middle = u"-upm -FMODmidi -nomouse -pbm -nm -dt -nojoy "_s;
         const QString group = u"-nc -xa -spf -spx -cmd \"rend-light 1\" "_s;
-        QCOMPARE(basic.line(), u"-np -nht "_s + sound + playlists + middle + group +
-                                   u"-v -sk 3 -txe -txn -txa 77 "_s);
+        QCOMPARE(basic.line(),
+                 u"-np -nht "_s + sound + playlists + middle + group + u"-v -sk 3 -txe -txn -txa 77 "_s);
         basic.path = I;
         basic.check = 4;
         QCOMPARE(basic.line(), start + u"-np -nht "_s + sound + playlists + middle + group +
                                    u"-mfo -v -sk 3 -txe -lean -txn -txa 77 "_s);
         basic.scripted = true;
-        QCOMPARE(basic.line(), start + sound + u"-upm -FMODmidi -nomouse -pbm -nm -dt -nojoy -usb -mfo "
-                                                "-v -sk 3 -txe -lean -txn -txa 77 "_s);
+        QCOMPARE(basic.line(), start + sound +
+                                   u"-upm -FMODmidi -nomouse -pbm -nm -dt -nojoy -usb -mfo "
+                                   "-v -sk 3 -txe -lean -txn -txa 77 "_s);
     }
 
     // One change to a state in which little is on: the whole line.
@@ -160,95 +189,127 @@ private Q_SLOTS:
         const auto both = [&](const char* name, Change change, const QString& line) {
             row(name, change, line, line);
         };
-        both("nothing", [](Case&) {}, none);
-        both("greyed patches count as off", [](Case& c) { c.box.chkGraphics[4].enabled = false; },
-             u"-np "_s + none);
-        both("own textures without their folder",
-             [](Case& c) { c.set.TexturePath = c.box.HiResText.text = u"/nowhere"_s; }, none);
-        both("the installation's textures, spelled otherwise", [](Case& c) {
-                 c.set.TexturePath = c.launcher.paths.RootPath + u"/Data/Textures"_s;
-                 c.box.HiResText.text = u"  "_s + c.launcher.paths.RootPath + u"\\DATA/textures "_s;
-             }, none);
-        both("details, textures on", [](Case& c) { c.set.DetailTextures = true; }, none);
-        both("details, textures off", [](Case& c) { c.set.DetailTextures = true, c.set.HighResTextures = false; },
-             u"-nht "_s + ch + u"-dt "_s + cmd);
-        both("details greyed", [](Case& c) {
-                 c.set.DetailTextures = true, c.set.HighResTextures = false;
-                 c.box.chkGraphics[2].enabled = false;
-             }, u"-nht "_s + none);
-        both("sound pack greyed", [](Case& c) {
-                 c.set.HiResSoundPack = true, c.box.chkSound[6].enabled = false;
-             }, none);
-        both("one channel", [](Case& c) { c.set.AudioChannels = 1; }, u"-ch 1 "_s + cmd);
-        both("channels below 0", [](Case& c) { c.set.AudioChannels = -5; }, none);
-        both("scaling greyed", [](Case& c) { c.set.SkinScaling = 4, c.box.cbScaler.enabled = false; }, none);
-        both("no music", [](Case& c) {
-                 c.set.DisableMusic = c.set.ForceFmodMidi = c.set.Sound3D = true;
-                 c.set.ManualPlaylist = true, c.set.PlaylistName = u"rock"_s;
-             }, u"-3d -ch 128 -nomusic "_s + cmd);
-        both("no sound and no music", [](Case& c) { c.set.DisableSound = c.set.DisableMusic = true; },
-             u"-nosound "_s + cmd);
-        both("playlists that are not there", [](Case& c) {
-                 c.set.ManualPlaylist = c.set.AutoPlaylist = true;
-                 c.set.PlaylistName = u"gone"_s, c.autoPlaylist = u"gone"_s;
-             }, none);
-        both("a playlist that is not asked for", [](Case& c) { c.set.PlaylistName = u"rock"_s; }, none);
-        both("greyed music boxes", [](Case& c) {
-                 c.set.IgnorePlaylistIfCustomMusic = c.set.ForceFmodMidi = true;
-                 c.box.chkSound[9].enabled = c.box.chkSound[10].enabled = false;
-             }, none);
-        both("core effects", [](Case& c) { c.set.CoreEffects = c.set.KelspackWeapons = true; },
-             ch + u"-xa -spf "_s + cmd);
-        row("core effects greyed", [](Case& c) { c.box.ChkModelOpts[3].enabled = false; },
-            ch + u"-xa -spf "_s + cmd, none);
-        row("effects without Basic Doom", [](Case& c) { c.set.Fx = c.set.KelspackWeapons = true; }, ch, none);
-        both("edit mode keeps Kelspack out", [](Case& c) { c.set.EditMode = c.set.KelspackWeapons = true; },
-             none + u"-txe "_s);
-        both("replacements unticked", [](Case& c) {
-                 c.set.TovrensReplacements = true, c.box.chkAltModels[3].startAs(0);
-             }, none);
-        both("zombies without replacements", [](Case& c) { c.set.PistolZombies = true; }, none);
-        both("zombies unticked", [](Case& c) {
-                 c.set.PistolZombies = c.set.TovrensReplacements = true, c.box.chkAltModels[0].startAs(0);
-             }, u"-am "_s + none);
-        both("extra effects greyed", [](Case& c) { c.set.ExtraFx = true, c.box.chkEffects[3].enabled = false; },
-             none);
-        row("forced models", [](Case& c) { c.set.NoForcedModels = true; }, none, ch + u"-noamwds "_s + cmd);
-        row("grenades greyed", [](Case& c) {
-                c.set.GrenadeLauncher = true, c.set.GrenadeTime = 3, c.box.ChkGL.enabled = false;
-            }, ch + u"-gnd 3 "_s + cmd, none);
-        both("pipebombs", [](Case& c) { c.set.GrenadeLauncher = true; }, ch + u"-pbm "_s + cmd);
-        both("one skybox", [](Case& c) { c.set.Skyboxes = true, c.set.SkyMode = 1; }, ch + u"-fsb "_s + cmd);
-        both("skyboxes greyed", [](Case& c) { c.set.Skyboxes = true, c.box.chkGraphics[3].enabled = false; },
-             none);
-        both("corpse time alone", [](Case& c) { c.box.Corpse.text = u"12"_s; }, ch + u"-ct 12 "_s + cmd);
-        row("ricochets off for the engine", [](Case& c) { c.launcher.launch.RicochetOn = true; },
+        both(
+            "nothing", [](Case&) {}, none);
+        row(
+            "greyed boxes count as off",
+            [](Case& c) {
+                Settings& s = c.set;
+                s.DetailTextures = s.HiResSoundPack = s.IgnorePlaylistIfCustomMusic = s.ForceFmodMidi = true;
+                s.NoForcedModels = s.ExtraFx = s.PistolZombies = s.TovrensReplacements = s.Skyboxes = true;
+                s.KelspackWeapons = s.KelspackAlternative = s.GrenadeLauncher = true;
+                s.HighResTextures = false;
+                s.SkinScaling = 4, s.GrenadeTime = 3, s.AudioChannels = -5;
+                for (CheckBox* box : boxesOfPacks(c.box))
+                    box->enabled = false;
+                c.box.cbScaler.enabled = false;
+            },
+            u"-np -nht -ch 128 -xa -spf -gnd 3 "_s + cmd, u"-np -nht "_s + none);
+        both(
+            "options that hang on others",
+            [](Case& c) {
+                Settings& s = c.set;
+                s.SmokeMode = s.SkyMode = 1;
+                s.Light = s.NoObjects = s.PistolZombies = s.RicochetSetting = s.DetailTextures = true;
+            },
+            none);
+        both(
+            "unticked boxes",
+            [](Case& c) {
+                c.set.TovrensReplacements = c.set.PistolZombies = true;
+                c.box.chkAltModels[0].startAs(0), c.box.chkAltModels[3].startAs(0);
+            },
+            none);
+        both(
+            "zombies unticked",
+            [](Case& c) {
+                c.set.TovrensReplacements = c.set.PistolZombies = true, c.box.chkAltModels[0].startAs(0);
+            },
+            u"-am "_s + none);
+        both(
+            "own textures without their folder",
+            [](Case& c) { c.set.TexturePath = c.box.HiResText.text = u"/nowhere"_s; }, none);
+        both(
+            "the installation's textures, spelled otherwise",
+            [](Case& c) {
+                c.set.TexturePath = c.launcher.paths.RootPath + u"/Data/Textures"_s;
+                c.box.HiResText.text = u"  "_s + c.launcher.paths.RootPath + u"\\DATA/textures "_s;
+            },
+            none);
+        both(
+            "details in place of textures",
+            [](Case& c) { c.set.DetailTextures = true, c.set.HighResTextures = false; },
+            u"-nht "_s + ch + u"-dt "_s + cmd);
+        both(
+            "no music",
+            [](Case& c) {
+                c.set.DisableMusic = c.set.ForceFmodMidi = c.set.Sound3D = c.set.ManualPlaylist = true;
+            },
+            u"-3d -ch 128 -nomusic "_s + cmd);
+        both(
+            "no sound and no music", [](Case& c) { c.set.DisableSound = c.set.DisableMusic = true; },
+            u"-nosound "_s + cmd);
+        both(
+            "playlists that are not there",
+            [](Case& c) {
+                c.set.ManualPlaylist = c.set.AutoPlaylist = true;
+                c.set.PlaylistName = u"gone"_s, c.autoPlaylist = u"gone"_s;
+            },
+            none);
+        both(
+            "core effects", [](Case& c) { c.set.CoreEffects = c.set.KelspackWeapons = true; },
+            ch + u"-xa -spf "_s + cmd);
+        row(
+            "effects without Basic Doom", [](Case& c) { c.set.Fx = c.set.KelspackWeapons = true; }, ch, none);
+        both(
+            "edit mode keeps Kelspack out", [](Case& c) { c.set.EditMode = c.set.KelspackWeapons = true; },
+            none + u"-txe "_s);
+        row(
+            "forced models", [](Case& c) { c.set.NoForcedModels = true; }, none, ch + u"-noamwds "_s + cmd);
+        both(
+            "values at their edges",
+            [](Case& c) {
+                c.set.AudioChannels = c.set.SkyMode = 1;
+                c.set.GrenadeLauncher = c.set.Skyboxes = true;
+                c.box.Corpse.text = u"12"_s;
+            },
+            u"-ch 1 -pbm -fsb -ct 12 "_s + cmd);
+        row(
+            "ricochets off for the engine", [](Case& c) { c.launcher.launch.RicochetOn = true; },
             ch + u"-cmd \"audio-ricoh 0\" \"rend-light 0\" \"rend-smoke 0\" "_s,
             none + u"\"audio-ricoh 0\" "_s);
-        both("less smoke without smoke", [](Case& c) { c.set.SmokeMode = 1; }, none);
-        both("Basic Doom", [](Case& c) {
-                 c.set.BasicDoom = c.set.Skyboxes = c.set.CoreEffects = true, c.set.SplashEffects = false;
-                 c.set.ExtraFx = c.set.NoForcedModels = c.set.TovrensReplacements = true;
-             }, ch + u"-nc -nws "_s);
-        both("no light in Basic Doom", [](Case& c) { c.set.BasicDoom = c.set.Fx = true; },
-             ch + u"-nc -xa -spf -cmd \"rend-light 0\" "_s);
-        both("edit options without edit mode", [](Case& c) { c.set.Light = c.set.NoObjects = true; }, none);
-        both("a skill, but a new game", [](Case& c) {
-                 c.set.Skill = 4, c.launcher.launch.StartChoice = StartChoice::NewGame;
-             }, none);
-        both("a skill and a savegame", [](Case& c) {
-                 c.set.Skill = 4, c.launcher.launch.StartChoice = StartChoice::ChosenSavegame;
-             }, none + u"-sk 4 "_s);
+        both(
+            "Basic Doom",
+            [](Case& c) {
+                c.set.BasicDoom = c.set.Skyboxes = c.set.CoreEffects = true, c.set.SplashEffects = false;
+                c.set.ExtraFx = c.set.NoForcedModels = c.set.TovrensReplacements = true;
+            },
+            ch + u"-nc -nws "_s);
+        both(
+            "no light in Basic Doom", [](Case& c) { c.set.BasicDoom = c.set.Fx = true; },
+            ch + u"-nc -xa -spf -cmd \"rend-light 0\" "_s);
+        both(
+            "a skill, but a new game",
+            [](Case& c) { c.set.Skill = 4, c.launcher.launch.StartChoice = StartChoice::NewGame; }, none);
+        both(
+            "a skill and a savegame",
+            [](Case& c) { c.set.Skill = 4, c.launcher.launch.StartChoice = StartChoice::ChosenSavegame; },
+            none + u"-sk 4 "_s);
         const auto installed = [&](const char* name, Change change, const QString& line) {
             row(name, change, none, line);
         };
-        installed("scripted", [](Case& c) { c.scripted = c.path == I; },
-                  ch + u"-usb -cmd \"rend-smoke 0\" "_s);
-        installed("entry 3", [](Case& c) { c.check = c.path == I ? 3 : 0; }, ch + u"-boom "_s + cmd);
-        installed("entry 5", [](Case& c) { c.check = c.path == I ? 5 : 0; }, none + u"-stx "_s);
-        installed("entry 6", [](Case& c) { c.check = c.path == I ? 6 : 0; }, none + u"-c_nextmap "_s);
-        both("entry 7 adds nothing", [](Case& c) { c.check = 7; }, none);
-        row("entry 3 in edit mode", [](Case& c) { c.check = 3, c.set.EditMode = true; }, none + u"-txe "_s,
+        installed(
+            "scripted", [](Case& c) { c.scripted = c.path == I; }, ch + u"-usb -cmd \"rend-smoke 0\" "_s);
+        installed(
+            "entry 3", [](Case& c) { c.check = c.path == I ? 3 : 0; }, ch + u"-boom "_s + cmd);
+        installed(
+            "entry 5", [](Case& c) { c.check = c.path == I ? 5 : 0; }, none + u"-stx "_s);
+        installed(
+            "entry 6", [](Case& c) { c.check = c.path == I ? 6 : 0; }, none + u"-c_nextmap "_s);
+        both(
+            "entry 7 adds nothing", [](Case& c) { c.check = 7; }, none);
+        row(
+            "entry 3 in edit mode", [](Case& c) { c.check = 3, c.set.EditMode = true; }, none + u"-txe "_s,
             none + u"-txe "_s);
     }
     void rows()
@@ -257,7 +318,6 @@ private Q_SLOTS:
         for (const LaunchPath path : {C, I}) {
             Case c{m_fixture.launcher, path};
             quiet(c);
-            c.box.cbScaler.enabled = true;
             change(c);
             QTEST(c.line(), path == C ? "commercial" : "installed");
         }
@@ -266,17 +326,10 @@ private Q_SLOTS:
     // From each of three states every option and every pair of options flipped.
     void invariants()
     {
-        const QList<bool Settings::*> flips{
-            &Settings::HighResPatches, &Settings::KelspackAlternative, &Settings::Fx,
-            &Settings::KelspackWeapons, &Settings::CoreEffects, &Settings::NoForcedModels,
-            &Settings::GrenadeLauncher, &Settings::DevelopmentMode, &Settings::DisableSound,
-            &Settings::DisableMusic, &Settings::RicochetSetting, &Settings::MonsterRespawn,
-            &Settings::NoSameTypeInfighting, &Settings::TovrensReplacements, &Settings::PistolZombies,
-            &Settings::HighResTextures, &Settings::NoMonsters, &Settings::Skyboxes, &Settings::GunSmoke,
-            &Settings::HiResSoundPack, &Settings::AutoPlaylist, &Settings::ManualPlaylist,
-            &Settings::ResurrectCorpses, &Settings::DetailTextures, &Settings::FastMonsters,
-            &Settings::BasicDoom, &Settings::EditMode, &Settings::Light, &Settings::NoObjects,
-            &Settings::DynamicLighting, &Settings::ExtraFx, &Settings::SplashEffects};
+        QList<bool Settings::*> flips;
+        for (const SettingRow& row : SettingsTable())
+            if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
+                flips << *flag;
         for (const Change base : {quiet, loud, basicDoom})
             for (qsizetype i = 0; i < flips.size(); ++i)
                 for (qsizetype j = i; j < flips.size(); ++j)
@@ -307,8 +360,9 @@ private:
             ++times[piece];
         const bool installed = c.path == I;
         for (auto piece = times.cbegin(); piece != times.cend(); ++piece) {
-            const bool twice = piece.key() == u"-extmus"_s ||
-                               (installed && c.scripted && (piece.key() == u"-am"_s || piece.key() == u"-ap"_s));
+            const bool twice =
+                piece.key() == u"-extmus"_s ||
+                (installed && c.scripted && (piece.key() == u"-am"_s || piece.key() == u"-ap"_s));
             if (piece.key().startsWith(u'-') || piece.key().contains(u"rend-"_s))
                 QVERIFY2(piece.value() <= (twice ? 2 : 1), where("too often: ", piece.key()));
         }

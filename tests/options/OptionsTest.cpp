@@ -23,7 +23,8 @@ private Q_SLOTS:
         Launcher& launcher = game.launcher;
         Controls& controls = launcher.controls;
         const auto state = [&] {
-            return u"%1 map %2 save %3 skill %4%5 last %6"_s.arg(static_cast<int>(launcher.launch.StartChoice))
+            return u"%1 map %2 save %3 skill %4%5 last %6"_s
+                .arg(static_cast<int>(launcher.launch.StartChoice))
                 .arg(controls.MapList.selectedText(), controls.SaveGameList.selectedText().left(1))
                 .arg(controls.SkillsLevel[0].selected())
                 .arg(launcher.settings.Skill)
@@ -132,8 +133,9 @@ private Q_SLOTS:
         launcher.settings.HighResTextures = false;
         QCOMPARE(enabled(), u"0000"_s);
         QCOMPARE(controls.HiResText.text, u"Not installed or the specified path is invalid"_s);
-        for (const QString& file : {u"Data/dtex/detail.wad"_s, u"DATA/Skyboxes/x"_s, u"Data/hv_doom_sfx.wad"_s})
-            game.installation.add(QString(file).replace(u"DATA"_s, u"Data"_s));
+        for (const QString& file :
+             {u"Data/dtex/detail.wad"_s, u"Data/Skyboxes/x"_s, u"Data/hv_doom_sfx.wad"_s})
+            game.installation.add(file);
         game.installation.addFolder(u"mine/Textures"_s);
         game.installation.addFolder(u"mine/patches"_s);
         controls.chkMain[0].startAs(1); // Basic Doom needs none

@@ -20,8 +20,8 @@ public:
             qFatal("the game-file tool cannot be put in its place");
         processes.delegate = &programs;
         addWad(QStringLiteral("Iwads/Doom.wad"), {QStringLiteral("E1M1"), QStringLiteral("E3M2")});
-        addWad(QStringLiteral("Iwads/Doom2.wad"), {QStringLiteral("MAP01"), QStringLiteral("MAP07"),
-                                                   QStringLiteral("MAP31")});
+        addWad(QStringLiteral("Iwads/Doom2.wad"),
+               {QStringLiteral("MAP01"), QStringLiteral("MAP07"), QStringLiteral("MAP31")});
         launcher.settings = settings;
         ApplySettingsToControls(launcher.settings, launcher.controls);
         SetMapFocus(launcher);

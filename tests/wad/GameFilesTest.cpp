@@ -75,8 +75,8 @@ private Q_SLOTS:
         };
         for (const QString& folder : {u"Mine/Pwads"_s, u"zips"_s}) {
             QStringList expected;
-            for (const QString& name : {u"zmain.wad"_s, u"b maps.wad"_s, u"C.WAD"_s, u"A-none.wad"_s,
-                                        u"x.deh"_s, u"Y.DED"_s})
+            for (const QString& name :
+                 {u"zmain.wad"_s, u"b maps.wad"_s, u"C.WAD"_s, u"A-none.wad"_s, u"x.deh"_s, u"Y.DED"_s})
                 expected << installation.path(folder + u'/' + name);
             const GatheredFiles gathered = gather(folder);
             QCOMPARE(gathered.StoredFiles, expected);

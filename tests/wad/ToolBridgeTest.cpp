@@ -35,8 +35,8 @@ private Q_SLOTS:
         f.processes.outputs = {report};
         QTEST(CountWadMaps(f.launcher, f.path(u"my games/a.wad"_s)), "key");
         QCOMPARE(f.processes.captures,
-                 (QList<RecordingProcesses::Call>{{u"VYKgfiles CHECKWAD \""_s + f.path(u"my games/a.wad"_s) +
-                      u'"', f.path(u"Bin"_s)}}));
+                 (QList<RecordingProcesses::Call>{
+                     {u"VYKgfiles CHECKWAD \""_s + f.path(u"my games/a.wad"_s) + u'"', f.path(u"Bin"_s)}}));
         QCOMPARE(f.installation.read(u"VYKLaunch/Data/pwad.vyk"_s), report + "\r\n");
     }
 
@@ -62,8 +62,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("report");
         QTest::addColumn<QStringList>("maps");
-        QTest::newRow("padded fields")
-            << QByteArray("h,h,h\r\nE1M1 ,E1M2 x\r\n\"MAP01, and more\"") << QStringList{u"E1M1"_s, u"E1M2"_s, u"MAP01"_s};
+        QTest::newRow("padded fields") << QByteArray("h,h,h\r\nE1M1 ,E1M2 x\r\n\"MAP01, and more\"")
+                                       << QStringList{u"E1M1"_s, u"E1M2"_s, u"MAP01"_s};
         QTest::newRow("header only") << QByteArray("a\r\nb\r\nc\r\n") << QStringList();
         QTest::newRow("less than a header") << QByteArray("cannot open") << QStringList();
         QTest::newRow("nothing printed") << QByteArray() << QStringList{u"OLD"_s};
@@ -87,7 +87,8 @@ private Q_SLOTS:
         ListSavegameHeaders(f.launcher, f.path(u"saves"_s));
         QCOMPARE(f.processes.captures.last().commandLine,
                  u"VYKgfiles GETSAVEHDRS \""_s + f.path(u"saves"_s) + u'"');
-        QCOMPARE(list.entries(), (QStringList{u"0 - Start"_s, u"2 - End"_s, u"3 - Run, run"_s, u"4 - Étage"_s}));
+        QCOMPARE(list.entries(),
+                 (QStringList{u"0 - Start"_s, u"2 - End"_s, u"3 - Run, run"_s, u"4 - Étage"_s}));
         ListSavegameHeaders(f.launcher, f.path(u"saves"_s));
         QVERIFY(list.isEmpty());
     }

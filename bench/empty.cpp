@@ -1,0 +1,2 @@
+// The least that any process costs.
+int main() {}

@@ -1,0 +1,282 @@
+#include "app/MainForm.h"
+#include "app/MainWindowLoad.h"
+#include "app/SettingsLoad.h"
+#include "platform/DiskFileSystem.h"
+#include "platform/SystemProcesses.h"
+#include "tests/support/QueuedPrompts.h"
+#include "tests/support/TemporaryInstallation.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Stands in for the engine: writes its arguments, one in a line, and is done.
+const QByteArray engine = "#!/bin/sh\nprintf '%s\\n' \"$@\" > arguments.new\nmv arguments.new arguments.txt\n";
+
+QStringList mapNames(int count)
+{
+    QStringList names;
+    for (int map = 1; map <= count; ++map)
+        names << u"MAP%1"_s.arg(map, 2, 10, QChar(u'0'));
+    return names;
+}
+
+} // namespace
+
+// The real window over a temporary installation, with the real game-file tool.
+class MainFormWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void everyWidgetIsNamedOnceAndAccessible();
+    void theFourListsCarryTheirNames();
+    void aClickChangesTheControlAndTheWidgetsFollow();
+    void advancedOptionsShowThePanelAndTheTabs();
+    void fromAClickedMapToTheEngine();
+    void aSavegameIsListedAndLoaded();
+    void enterLaunchesUnlessLaunchIsOff();
+    void typedParametersReachTheEngine();
+    void closingSavesWhatWasChosen();
+    void captionsAreShownAsTheyAre();
+    void theTitlePictureCyclesAndSurvivesABadFile();
+
+private:
+    template <class Widget> Widget* find(const QString& name) const { return m_window->findChild<Widget*>(name); }
+    void clickRow(const QString& list, int row);
+    QStringList engineArguments();
+
+    std::unique_ptr<TemporaryInstallation> m_installation;
+    std::unique_ptr<DiskFileSystem> m_files;
+    std::unique_ptr<SystemProcesses> m_processes;
+    std::unique_ptr<QueuedPrompts> m_prompts;
+    std::unique_ptr<MainForm> m_window;
+    std::unique_ptr<Launcher> m_launcher;
+};
+
+void MainFormWindowTest::initTestCase()
+{
+    qunsetenv("DOOMWADDIR");
+}
+
+void MainFormWindowTest::init()
+{
+    m_installation = std::make_unique<TemporaryInstallation>();
+    m_installation->makeComplete();
+    m_installation->addProgram(u"Bin/Keldrax"_s, engine);
+    QFile::remove(m_installation->path(u"Bin/VYKgFiles"_s));
+    QVERIFY(QFile::copy(QStringLiteral(VYKGFILES_PROGRAM), m_installation->path(u"Bin/VYKgFiles"_s)));
+    m_installation->add(u"Data/Doom2.wad"_s, TemporaryInstallation::wad("IWAD", mapNames(32)));
+    m_installation->add(u"Data/DOOM.WAD"_s, TemporaryInstallation::wad("IWAD", {u"E1M1"_s, u"E2M3"_s}));
+    m_installation->add(u"UserSG/doom2/savegame/KeldraxSav3.vyksg"_s, QByteArray("Before the gate").leftJustified(64, 0));
+
+    m_files = std::make_unique<DiskFileSystem>();
+    m_processes = std::make_unique<SystemProcesses>(*m_files);
+    m_prompts = std::make_unique<QueuedPrompts>();
+    m_window = std::make_unique<MainForm>();
+    m_launcher = std::make_unique<Launcher>(*m_files, *m_processes, *m_prompts, *m_window, m_installation->root());
+    m_launcher->startUp.WindowCaption = u"VYKLauncher"_s;
+    m_window->build(*m_launcher);
+    LoadMainWindow(*m_launcher);
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void MainFormWindowTest::cleanup()
+{
+    m_window.reset();
+    m_launcher.reset();
+    m_prompts.reset();
+}
+
+void MainFormWindowTest::clickRow(const QString& name, int row)
+{
+    auto* list = find<QListWidget>(name);
+    list->scrollToItem(list->item(row));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+}
+
+QStringList MainFormWindowTest::engineArguments()
+{
+    const bool ended = QTest::qWaitFor([this] { return m_installation->exists(u"arguments.txt"_s); }, 30000);
+    if (!ended)
+        return {};
+    return QString::fromUtf8(m_installation->read(u"arguments.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void MainFormWindowTest::everyWidgetIsNamedOnceAndAccessible()
+{
+    QStringList names;
+    for (const QWidget* widget : m_window->findChildren<QWidget*>()) {
+        const QString name = widget->objectName();
+        if (name.isEmpty() || name.startsWith(u"qt_"_s))
+            continue;
+        QVERIFY2(!names.contains(name), qPrintable(name));
+        names << name;
+        QVERIFY2(!widget->accessibleName().trimmed().isEmpty(), qPrintable(name));
+    }
+    // Everything that takes a click or a key has its control.
+    for (const QWidget* widget : m_window->findChildren<QWidget*>()) {
+        const bool takesInput = qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget)
+            || qobject_cast<const QListWidget*>(widget) || qobject_cast<const QComboBox*>(widget);
+        QVERIFY2(!takesInput || !widget->objectName().isEmpty(), widget->metaObject()->className());
+    }
+    for (const QString& name : {u"chkMain_0"_s, u"chkMain_2"_s, u"OptionUdir_1"_s, u"OptionTabs_0"_s, u"SkillsLevel_0"_s,
+             u"edCustom"_s, u"LaunchButton"_s, u"Home_0"_s, u"Home_3"_s, u"TitlePic"_s, u"Auto_0"_s})
+        QVERIFY2(names.contains(name), qPrintable(name));
+}
+
+void MainFormWindowTest::theFourListsCarryTheirNames()
+{
+    QCOMPARE(find<QWidget>(u"PwadList"_s)->accessibleName(), u"Games"_s);
+    QCOMPARE(find<QWidget>(u"PwadShowlist"_s)->accessibleName(), u"Game files"_s);
+    QCOMPARE(find<QWidget>(u"MapList"_s)->accessibleName(), u"Maps"_s);
+    QCOMPARE(find<QWidget>(u"SaveGameList"_s)->accessibleName(), u"Savegames"_s);
+    QCOMPARE(find<QWidget>(u"chkMain_0"_s)->accessibleName(), u"Basic Doom"_s);
+}
+
+void MainFormWindowTest::aClickChangesTheControlAndTheWidgetsFollow()
+{
+    find<QAbstractButton>(u"chkMain_0"_s)->click();
+    QVERIFY(m_launcher->controls.chkMain[0].ticked());
+
+    clickRow(u"PwadList"_s, 1);
+    QCOMPARE(m_launcher->settings.SelectedDoomGame, u"DOOM/ULTIMATE DOOM"_s);
+    QCOMPARE(find<QListWidget>(u"MapList"_s)->count(), 2);
+    QCOMPARE(find<QListWidget>(u"PwadShowlist"_s)->item(0)->text(), u"DOOM.WAD"_s);
+
+    m_launcher->controls.LaunchButton.enabled = false;
+    m_launcher->controls.Auto[0].caption = u"CHANGED"_s;
+    m_window->refresh();
+    QVERIFY(!find<QPushButton>(u"LaunchButton"_s)->isEnabled());
+    QCOMPARE(find<QLabel>(u"Auto_0"_s)->text(), u"CHANGED"_s);
+}
+
+void MainFormWindowTest::advancedOptionsShowThePanelAndTheTabs()
+{
+    const int low = m_window->height();
+    QVERIFY(!find<QWidget>(u"edCustom"_s)->isVisible());
+    QVERIFY(!find<QWidget>(u"OptionTabs_2"_s)->isVisible());
+
+    find<QAbstractButton>(u"chkMain_2"_s)->click();
+    QVERIFY(find<QWidget>(u"edCustom"_s)->isVisible());
+    QVERIFY(m_window->height() > low);
+    find<QAbstractButton>(u"OptionTabs_2"_s)->click();
+    QVERIFY(!find<QWidget>(u"PwadList"_s)->isVisible());
+    QVERIFY(!find<QPushButton>(u"LaunchButton"_s)->isEnabled());
+
+    find<QAbstractButton>(u"chkMain_2"_s)->click();
+    QVERIFY(find<QWidget>(u"PwadList"_s)->isVisible());
+    QVERIFY(find<QPushButton>(u"LaunchButton"_s)->isEnabled());
+    QCOMPARE(m_window->height(), low);
+}
+
+void MainFormWindowTest::fromAClickedMapToTheEngine()
+{
+    clickRow(u"MapList"_s, 6);
+    QCOMPARE(find<QComboBox>(u"SkillsLevel_1"_s)->currentIndex(), 2); // the remembered skill
+    auto* skill = find<QComboBox>(u"SkillsLevel_1"_s);
+    skill->setFocus();
+    QTest::keyClick(skill, Qt::Key_Down);
+    QTest::keyClick(skill, Qt::Key_Down);
+    find<QPushButton>(u"LaunchButton"_s)->click();
+
+    const QStringList arguments = engineArguments();
+    QCOMPARE(arguments.first(), u"-Doom2"_s);
+    QCOMPARE(arguments.last(4), (QStringList{u"-sk"_s, u"4"_s, u"-wp"_s, u"07"_s}));
+    QVERIFY(m_window->isMinimized());
+    QVERIFY(m_installation->read(u"VYKLaunch/launch.log"_s).startsWith("Bin\\Keldrax -Doom2 "));
+    QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP07\r\n"));
+}
+
+void MainFormWindowTest::aSavegameIsListedAndLoaded()
+{
+    auto* saves = find<QListWidget>(u"SaveGameList"_s);
+    QCOMPARE(saves->count(), 1);
+    QCOMPARE(saves->item(0)->text(), u"3 - Before the gate"_s);
+    clickRow(u"MapList"_s, 4);
+    clickRow(u"SaveGameList"_s, 0);
+    QCOMPARE(find<QListWidget>(u"MapList"_s)->currentRow(), -1);
+    find<QPushButton>(u"LaunchButton"_s)->click();
+    QCOMPARE(engineArguments().last(2), (QStringList{u"-loadgame"_s, u"3"_s}));
+}
+
+void MainFormWindowTest::enterLaunchesUnlessLaunchIsOff()
+{
+    m_launcher->controls.LaunchButton.enabled = false;
+    m_window->refresh();
+    QTest::keyClick(find<QWidget>(u"PwadList"_s), Qt::Key_Return);
+    QVERIFY(!m_installation->exists(u"VYKLaunch/launch.log"_s));
+
+    m_launcher->controls.LaunchButton.enabled = true;
+    m_window->refresh();
+    QTest::keyClick(find<QWidget>(u"PwadList"_s), Qt::Key_Return);
+    QVERIFY(m_installation->exists(u"VYKLaunch/launch.log"_s));
+    QVERIFY(!engineArguments().contains(u"-wp"_s));
+}
+
+void MainFormWindowTest::typedParametersReachTheEngine()
+{
+    find<QAbstractButton>(u"chkMain_2"_s)->click();
+    QTest::keyClicks(find<QWidget>(u"edCustom"_s), u"-nomonsters \"two words\""_s);
+    find<QPushButton>(u"LaunchButton"_s)->click();
+    QCOMPARE(engineArguments().last(2), (QStringList{u"-nomonsters"_s, u"two words"_s}));
+}
+
+void MainFormWindowTest::closingSavesWhatWasChosen()
+{
+    clickRow(u"PwadList"_s, 1);
+    find<QAbstractButton>(u"chkMain_2"_s)->click();
+    m_window->move(40, 50);
+    m_window->close();
+    const QStringList lines = QString::fromLatin1(m_installation->read(u"VYKLaunch/config.vyk"_s)).split(u"\r\n"_s);
+    QCOMPARE(lines.size(), 84);
+    QCOMPARE(lines.at(46), u" 1 "_s);
+    QCOMPARE(lines.at(56), u"DOOM/ULTIMATE DOOM"_s);
+    QCOMPARE(lines.at(81), u" 50 "_s);
+    QCOMPARE(lines.at(82), u" 40 "_s);
+}
+
+void MainFormWindowTest::captionsAreShownAsTheyAre()
+{
+    m_launcher->controls.chkMain[0].caption = u"Doom & Hell"_s;
+    m_launcher->controls.Auto[0].caption = u"<b>LIST</b>"_s;
+    m_window->refresh();
+    QCOMPARE(find<QAbstractButton>(u"chkMain_0"_s)->text(), u"Doom && Hell"_s);
+    QCOMPARE(find<QLabel>(u"Auto_0"_s)->textFormat(), Qt::PlainText);
+}
+
+void MainFormWindowTest::theTitlePictureCyclesAndSurvivesABadFile()
+{
+    QImage picture(300, 40, QImage::Format_RGB32);
+    picture.fill(Qt::green);
+    m_installation->addFolder(u"VYKLaunch/Themes"_s);
+    QVERIFY(picture.save(m_installation->path(u"VYKLaunch/Themes/default.jpg"_s)));
+    m_installation->add(u"VYKLaunch/Themes/broken.bmp"_s, "no picture at all");
+    auto* title = find<QWidget>(u"TitlePic"_s);
+    const auto centre = [title] { return title->grab().toImage().pixelColor(200, 50); };
+
+    m_launcher->settings.TitlePicIndex = 7;
+    QTest::mouseClick(title, Qt::LeftButton, {}, {200, 50});
+    QCOMPARE(m_launcher->settings.TitlePicIndex, 0);
+    QVERIFY(centre().green() > 200);
+    QTest::mouseClick(title, Qt::LeftButton, {}, {200, 50});
+    QCOMPARE(m_launcher->settings.TitlePicIndex, 1);
+    QVERIFY(centre().green() > 200); // the broken one is skipped
+}
+
+QTEST_MAIN(MainFormWindowTest)
+#include "MainFormWindowTest.moc"

@@ -1,0 +1,159 @@
+#include "tests/support/TemporaryInstallation.h"
+#include "tools/VYKplay/Play.h"
+
+#include <QProcess>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+// The real program in a temporary installation, with the real game-file tool and a script as the engine.
+class VYKplayTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void wrongUsageIsTwo_data();
+    void wrongUsageIsTwo();
+    void listsAndMaps();
+    void aDryRunPrintsTheLineAndChangesNothing();
+    void playStartsTheEngineAndRemembersTheMap();
+    void refusalsAreOneWithAMessage_data();
+    void refusalsAreOneWithAMessage();
+    void aDamagedConfigIsLeftAlone();
+
+private:
+    struct Result
+    {
+        int status;
+        QString out, err;
+    };
+    Result run(const QStringList& arguments) const;
+
+    std::unique_ptr<TemporaryInstallation> m_installation;
+};
+
+void VYKplayTest::init()
+{
+    m_installation = std::make_unique<TemporaryInstallation>();
+    m_installation->makeComplete();
+    for (const auto& [program, name] : {std::pair{VYKPLAY_PROGRAM, "VYKplay"}, {VYKGFILES_PROGRAM, "VYKgFiles"}}) {
+        const QString target = m_installation->path(u"Bin/"_s + QString::fromLatin1(name));
+        QFile::remove(target);
+        QVERIFY(QFile::copy(QString::fromLocal8Bit(program), target));
+    }
+    m_installation->addProgram(u"Bin/Keldrax"_s, "#!/bin/sh\necho \"$*\" > new.txt\nmv new.txt arguments.txt\n");
+    m_installation->add(u"Data/Doom2.wad"_s, TemporaryInstallation::wad("IWAD", {u"MAP01"_s, u"MAP07"_s}));
+    m_installation->add(u"VYKGames/Läufer 100%/Pwads/run.wad"_s, TemporaryInstallation::wad("PWAD", {u"MAP03"_s}));
+    m_installation->add(u"VYKArchives/Some.ZIP"_s);
+    m_installation->add(u"UserSG/doom2/savegame/KeldraxSav5.vyksg"_s, QByteArray("Old friend").leftJustified(40, 0));
+}
+
+VYKplayTest::Result VYKplayTest::run(const QStringList& arguments) const
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(u"DOOMWADDIR"_s);
+    process.setProcessEnvironment(environment);
+    process.start(m_installation->path(u"Bin/VYKplay"_s), arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, {}};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+        QString::fromUtf8(process.readAllStandardError())};
+}
+
+void VYKplayTest::wrongUsageIsTwo_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    const char* const lines[] = {"", "dance", "list nowhere", "list doom zips", "maps", "play", "play a b", "play a --map 1 --new",
+        "play a --save 1 --map 2", "play a --skill 6", "play a --skill 0", "play a --skill x", "play a --new --skill 3",
+        "maps a --dry-run", "play a --view attic", "list --nonsense", "play a --map"};
+    for (const char* line : lines)
+        QTest::newRow(line) << QString::fromLatin1(line).split(u' ', Qt::SkipEmptyParts);
+}
+
+void VYKplayTest::wrongUsageIsTwo()
+{
+    QFETCH(QStringList, arguments);
+    QString outText, errText;
+    QTextStream out(&outText), err(&errText);
+    QCOMPARE(RunVYKplay(ParseArguments(arguments), m_installation->root(), out, err), 2);
+    QVERIFY(outText.isEmpty());
+    QVERIFY(errText.contains(u"VYKplay list"_s));
+}
+
+void VYKplayTest::listsAndMaps()
+{
+    const QStringList before = m_installation->tree();
+    QCOMPARE(run({u"list"_s, u"doom"_s}).out, u"DOOM II\n"_s);
+    QCOMPARE(run({u"list"_s, u"installed"_s}).out, u"LÄUFER 100%\n"_s);
+    QCOMPARE(run({u"list"_s, u"zips"_s}).out, u"SOME\n"_s);
+    QCOMPARE(run({u"list"_s}).out, u"DOOM II\nLÄUFER 100%\nSOME\n"_s);
+    QCOMPARE(run({u"maps"_s, u"Doom ii"_s}).out, u"MAP01\nMAP07\n"_s);
+    QCOMPARE(run({u"maps"_s, u"läufer 100%"_s}).out, u"MAP03\n"_s);
+    QCOMPARE(m_installation->tree(), before);
+}
+
+void VYKplayTest::aDryRunPrintsTheLineAndChangesNothing()
+{
+    const QStringList before = m_installation->tree();
+    const Result result
+        = run({u"play"_s, u"doom II"_s, u"--map"_s, u"map07"_s, u"--skill"_s, u"4"_s, u"--dry-run"_s});
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.out.startsWith(u"Bin\\Keldrax -Doom2 "_s), qPrintable(result.out));
+    QVERIFY(result.out.endsWith(u"-sk 4 -wp 07 \n"_s));
+    QCOMPARE(result.out.count(u'\n'), 1);
+    QCOMPARE(result.err, QString());
+    QCOMPARE(m_installation->tree(), before);
+
+    // Without a choice the settings' own: a new game.
+    QVERIFY(!run({u"play"_s, u"doom ii"_s, u"--dry-run"_s}).out.contains(u"-sk"_s));
+    QVERIFY(!run({u"play"_s, u"doom ii"_s, u"--new"_s, u"--dry-run"_s}).out.contains(u"-wp"_s));
+    QVERIFY(run({u"play"_s, u"doom ii"_s, u"--save"_s, u"5"_s, u"--dry-run"_s}).out.endsWith(u"-loadgame 5 \n"_s));
+}
+
+void VYKplayTest::playStartsTheEngineAndRemembersTheMap()
+{
+    const QString dry = run({u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP07"_s, u"--dry-run"_s}).out;
+    const Result result = run({u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP07"_s});
+    QCOMPARE(result.status, 0);
+    QVERIFY(QTest::qWaitFor([this] { return m_installation->exists(u"arguments.txt"_s); }, 60000));
+    QCOMPARE(QString::fromLatin1(m_installation->read(u"VYKLaunch/launch.log"_s)).replace(u"\r\n"_s, u"\n"_s), dry);
+    QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP07\r\n"));
+    QVERIFY(!m_installation->exists(u"VYKLaunch/config.vyk"_s));
+}
+
+void VYKplayTest::refusalsAreOneWithAMessage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no such game") << QStringList{u"play"_s, u"Doom III"_s} << u"Doom III"_s;
+    QTest::newRow("not in that view") << QStringList{u"maps"_s, u"doom ii"_s, u"--view"_s, u"zips"_s} << u"doom ii"_s;
+    QTest::newRow("no such map") << QStringList{u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP33"_s} << u"MAP33"_s;
+    QTest::newRow("no such savegame") << QStringList{u"play"_s, u"doom ii"_s, u"--save"_s, u"4"_s} << u"\"4\""_s;
+    QTest::newRow("no installation") << QStringList{u"list"_s, u"--root"_s, u"/nowhere"_s} << u"has not been detected"_s;
+}
+
+void VYKplayTest::refusalsAreOneWithAMessage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    const Result result = run(arguments);
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.out.isEmpty());
+    QVERIFY2(result.err.contains(message), qPrintable(result.err));
+    QVERIFY(!m_installation->exists(u"VYKLaunch/launch.log"_s));
+}
+
+void VYKplayTest::aDamagedConfigIsLeftAlone()
+{
+    m_installation->add(u"VYKLaunch/config.vyk"_s, "v9.1\r\nabc\r\n");
+    const Result result = run({u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP01"_s});
+    QCOMPARE(result.status, 0);
+    QVERIFY(result.err.contains(u"config.vyk"_s));
+    QCOMPARE(m_installation->read(u"VYKLaunch/config.vyk"_s), QByteArray("v9.1\r\nabc\r\n"));
+    QVERIFY(QTest::qWaitFor([this] { return m_installation->exists(u"arguments.txt"_s); }, 60000));
+}
+
+QTEST_GUILESS_MAIN(VYKplayTest)
+#include "VYKplayTest.moc"
