@@ -175,7 +175,7 @@ Controls::Controls()
     SkillsLevel[0].add(u" Start game from New"_s);
     SkillsLevel[1].add(u"Start game from New"_s);
     for (const QString& skill : {u"1 - I'm too young to die"_s, u"2 - Hey, not too rough"_s,
-             u"3 - Hurt me plenty"_s, u"4 - Ultra-Violence"_s, u"5 - NIGHTMARE"_s})
+                                 u"3 - Hurt me plenty"_s, u"4 - Ultra-Violence"_s, u"5 - NIGHTMARE"_s})
         for (ListBox& list : SkillsLevel)
             list.add(skill);
     SkillsLevel[0].startAs(0);

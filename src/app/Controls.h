@@ -7,7 +7,7 @@
 // The main window itself. Layout units are device-independent pixels.
 struct WindowControl : Control
 {
-    bool compact = false; // default mode: without the command panel and its height
+    bool compact = false;      // default mode: without the command panel and its height
     bool saveGamesTall = true; // the boundary between the game files and the savegames
 };
 
@@ -20,16 +20,16 @@ struct Controls
     Controls& operator=(const Controls&) = delete;
 
     WindowControl MainForm;
-    Button TitlePic; // `text` is the path of the picture
+    Button TitlePic;            // `text` is the path of the picture
     std::array<Button, 4> Home; // 0 the engine's web site, 3 its downloads page
     Control WineImage;
     Button ImageCM;
     std::array<Button, 10> AuxButton;
 
     // The games tab
-    OptionButtons OptionUdir{3, 1}; // the games list's views
-    std::array<Control, 4> Auto; // the headings
-    ListBox PwadList{ListBox::Order::Sorted}; // the games
+    OptionButtons OptionUdir{3, 1};               // the games list's views
+    std::array<Control, 4> Auto;                  // the headings
+    ListBox PwadList{ListBox::Order::Sorted};     // the games
     ListBox PwadShowlist{ListBox::Order::Sorted}; // the files of the selected game
     ListBox MapList;
     ListBox SaveGameList{ListBox::Order::Sorted};

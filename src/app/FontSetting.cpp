@@ -17,7 +17,8 @@ FontSetting LoadFontSetting(const FileSystem& files, const QString& path)
         const qsizetype comma = line.indexOf(u',');
         font.FontName = line.left(comma); // all of it when there is no comma
         if (comma >= 0)
-            font.FontSize = qBound(0, line.mid(comma + 1).section(u',', 0, 0).trimmed().toInt(), 72);
+            font.FontSize =
+                qBound(0, static_cast<int>(line.mid(comma + 1).section(u',', 0, 0).toDouble()), 72);
         if (font.FontName.isEmpty())
             font.CustomFontOn = false;
     } catch (const FileError&) {

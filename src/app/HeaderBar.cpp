@@ -46,7 +46,8 @@ QWidget* HeaderBar::titlePicture(Controls& controls, ControlBinder& binder)
     links->addStretch();
 
     Button& title = controls.TitlePic;
-    binder.bind(u"TitlePic"_s, title, picture, [picture, &title](const QString&) { picture->showPicture(title.text); });
+    binder.bind(u"TitlePic"_s, title, picture,
+                [picture, &title](const QString&) { picture->showPicture(title.text); });
     connect(picture, &TitleView::clicked, this, [&binder, &title] { binder.run(title.clicked); });
     return picture;
 }

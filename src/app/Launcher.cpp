@@ -13,9 +13,14 @@
 #include "wad/MapList.h"
 
 Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, MainWindowHost& host,
-    const QString& rootPath)
-    : files(disk), processes(programs), prompts(questions), window(host), paths(rootPath),
-      environment(IwadEnvironment::ofProcess()), settings(DefaultSettings())
+                   const QString& rootPath)
+    : files(disk),
+      processes(programs),
+      prompts(questions),
+      window(host),
+      paths(rootPath),
+      environment(IwadEnvironment::ofProcess()),
+      settings(DefaultSettings())
 {
     ConnectThemes(*this);
     ConnectWebLinks(*this);

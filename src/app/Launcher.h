@@ -18,7 +18,7 @@ struct StartUpState
     QString LauncherVersion;
     QString EngineVersion;
     QString WindowCaption;
-    bool VersionUpdate = false; // the settings were reset
+    bool VersionUpdate = false;   // the settings were reset
     bool ConfigReadError = false; // ... because the first line could not be read
     bool RunningUnderWine = false;
     bool ShuttingDown = false; // nothing is saved any more
@@ -28,7 +28,7 @@ struct StartUpState
 struct Launcher
 {
     Launcher(FileSystem& files, Processes& processes, Prompts& prompts, MainWindowHost& window,
-        const QString& rootPath);
+             const QString& rootPath);
     Launcher(const Launcher&) = delete;
     Launcher& operator=(const Launcher&) = delete;
 

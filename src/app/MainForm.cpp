@@ -13,11 +13,16 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize advancedSize(940, 600); // layout units; fits a screen of 1024 x 600 beside its panels
+// In layout units. The window fits a screen of 1024 x 600 beside its panels; without the command panel it
+// is lower by as much as the panel takes.
+constexpr QSize advancedSize(940, 600);
+constexpr int panelHeight = 72;
 
 } // namespace
 
@@ -27,15 +32,15 @@ MainForm::MainForm()
     resize(advancedSize);
 }
 
-void MainForm::build(Launcher& launcher)
+void MainForm::attach(Launcher& launcher)
 {
     m_launcher = &launcher;
-    Controls& controls = launcher.controls;
-    if (launcher.font.CustomFontOn) {
-        constexpr int usualSize = 8;
-        const int points = launcher.font.FontSize == 0 ? usualSize : launcher.font.FontSize;
-        setFont(QFont(launcher.font.FontName, points, launcher.font.FontBold ? QFont::Bold : QFont::Normal));
-    }
+    connect(&m_binder, &ControlBinder::written, this, &MainForm::afterWrite);
+}
+
+void MainForm::build()
+{
+    Controls& controls = m_launcher->controls;
 
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 12);
@@ -48,17 +53,16 @@ void MainForm::build(Launcher& launcher)
     m_binder.bind(u"TabFrame_0"_s, controls.TabFrame[0], games);
     below->addWidget(games, 1);
     for (int tab = 1; tab < controls.OptionTabs.count(); ++tab) {
-        auto* page = new QLabel(u"The options of this page cannot be changed here yet; those in config.vyk apply."_s);
+        auto* page =
+            new QLabel(u"The options of this page cannot be changed here yet; those in config.vyk apply."_s);
         page->setAlignment(Qt::AlignCenter);
         m_binder.bind(NameOf(u"TabFrame"_s, tab), controls.TabFrame[static_cast<size_t>(tab)],
-            static_cast<QWidget*>(page));
+                      static_cast<QWidget*>(page));
         below->addWidget(page, 1);
     }
-    m_strip = new StripBar(controls, m_binder);
-    below->addWidget(m_strip);
+    below->addWidget(new StripBar(controls, m_binder));
     rows->addLayout(below, 1);
 
-    connect(&m_binder, &ControlBinder::written, this, &MainForm::afterWrite);
     qApp->installEventFilter(this);
 }
 
@@ -69,6 +73,8 @@ QSize MainForm::screenSize() const
 
 void MainForm::show()
 {
+    if (!layout())
+        build();
     refresh();
     QWidget::show();
 }
@@ -81,6 +87,23 @@ void MainForm::bringToFront()
     activateWindow();
 }
 
+void MainForm::checkFont(const FontSetting& font)
+{
+    constexpr int usualSize = 8;
+    const QFont launcherFont(font.FontName, font.FontSize == 0 ? usualSize : font.FontSize,
+                             font.FontBold ? QFont::Bold : QFont::Normal);
+    QApplication::setFont(launcherFont); // of the windows to come
+    setFont(launcherFont);
+}
+
+bool MainForm::isReachableAt(QPoint topLeft) const
+{
+    const QRect there(topLeft, QWidget::size());
+    return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* display) {
+        return display->availableGeometry().intersects(there);
+    });
+}
+
 void MainForm::refresh()
 {
     m_binder.write();
@@ -88,14 +111,15 @@ void MainForm::refresh()
 
 void MainForm::showIwadForm()
 {
-    IwadForm form(*m_launcher, this);
-    form.show();
+    if (!m_iwadForm)
+        m_iwadForm = new IwadForm(*m_launcher, this);
+    m_iwadForm->show();
     refresh();
 }
 
 void MainForm::endProgram()
 {
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }
 
 void MainForm::afterWrite()
@@ -103,18 +127,24 @@ void MainForm::afterWrite()
     const WindowControl& form = m_launcher->controls.MainForm;
     if (windowTitle() != form.caption)
         setWindowTitle(form.caption);
-    if (m_compact != form.compact) {
-        m_compact = form.compact;
-        resize(width(), height() + (m_compact ? -1 : 1) * m_strip->panelHeight());
-    }
+    fitMode();
+}
+
+void MainForm::fitMode()
+{
+    if (m_compact == m_launcher->controls.MainForm.compact)
+        return;
+    m_compact = !m_compact;
+    resize(width(), height() + (m_compact ? -panelHeight : panelHeight));
 }
 
 bool MainForm::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && isActiveWindow() && !QApplication::activePopupWidget()) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
+        const auto* keyEvent = static_cast<QKeyEvent*>(event);
+        const bool isEnter = keyEvent->key() == Qt::Key_Return || keyEvent->key() == Qt::Key_Enter;
         bool pressed = false;
-        if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        if (isEnter && !keyEvent->isAutoRepeat())
             m_binder.run([&] { pressed = EnterPressed(*m_launcher); });
         if (pressed)
             return true;
@@ -137,5 +167,5 @@ void MainForm::closeEvent(QCloseEvent* event)
 {
     UnloadMainWindow(*m_launcher);
     event->accept();
-    QCoreApplication::quit();
+    endProgram();
 }

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-class StripBar;
+class IwadForm;
 
 // The main window: composes the pages, forwards the window's events, and is what the launcher asks of it.
 class MainForm : public QWidget, public MainWindowHost
@@ -15,8 +15,9 @@ class MainForm : public QWidget, public MainWindowHost
 public:
     MainForm();
 
-    // Builds the window over the launcher's controls; `launcher` must outlive the window.
-    void build(Launcher& launcher);
+    // Ties the window to the launcher, which must outlive it. The widgets come when it is first shown, so
+    // that the launcher's load need not wait for them.
+    void attach(Launcher& launcher);
 
     QSize screenSize() const override;
     QSize size() const override { return QWidget::size(); }
@@ -28,6 +29,8 @@ public:
     void hide() override { QWidget::hide(); }
     void minimise() override { showMinimized(); }
     void bringToFront() override;
+    void checkFont(const FontSetting& font) override;
+    bool isReachableAt(QPoint topLeft) const override;
     void refresh() override;
     void showIwadForm() override;
     void endProgram() override;
@@ -38,10 +41,12 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void build();
     void afterWrite();
+    void fitMode(); // the height that goes with the mode
 
-    Launcher* m_launcher = nullptr; // set by build
+    Launcher* m_launcher = nullptr; // set by attach
     ControlBinder m_binder;
-    StripBar* m_strip = nullptr;
-    bool m_compact = false; // as the window is sized
+    IwadForm* m_iwadForm = nullptr; // from its first use on
+    bool m_compact = false;         // as the window is sized
 };

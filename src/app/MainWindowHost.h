@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/FontSetting.h"
+
 #include <QPoint>
 #include <QSize>
 #include <QString>
@@ -22,6 +24,12 @@ public:
     virtual void hide() = 0;
     virtual void minimise() = 0;
     virtual void bringToFront() = 0; // restores a minimised window
+
+    // Shows every text of every window in the launcher font.
+    virtual void checkFont(const FontSetting& font) = 0;
+
+    // Whether some part of the window would be on a screen with its top left corner there.
+    virtual bool isReachableAt(QPoint topLeft) const = 0;
 
     // Writes what changed in the controls to the widgets, as happens by itself after a user's event.
     virtual void refresh() = 0;

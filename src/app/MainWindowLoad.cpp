@@ -54,16 +54,18 @@ void emptyZipFolder(Launcher& launcher)
 
 void placeWindow(Launcher& launcher)
 {
-    const QSize screen = launcher.window.screenSize();
-    const QSize window = launcher.window.size();
     Settings& settings = launcher.settings;
-    const bool offScreen = screen.height() < settings.WindowTop || screen.width() < settings.WindowLeft
-        || settings.WindowTop < 0 || settings.WindowLeft + window.width() <= 0;
-    if (launcher.startUp.RunningUnderWine || offScreen)
-        launcher.window.moveTo(
-            {(screen.width() - window.width()) / 2, (screen.height() - window.height()) / 2});
-    else
-        launcher.window.moveTo({settings.WindowLeft, settings.WindowTop});
+    const QPoint saved(settings.WindowLeft, settings.WindowTop);
+    const QSize free = launcher.window.screenSize() - launcher.window.size();
+    const QPoint centre(free.width() / 2, free.height() / 2);
+    const bool known =
+        settings.WindowTop != Settings::unknownPosition && settings.WindowLeft != Settings::unknownPosition;
+    if (!known) {
+        settings.WindowTop = centre.y();
+        settings.WindowLeft = centre.x();
+    }
+    const bool useSaved = known && !launcher.startUp.RunningUnderWine && launcher.window.isReachableAt(saved);
+    launcher.window.moveTo(useSaved ? saved : centre);
     launcher.controls.WineImage.visible = launcher.startUp.RunningUnderWine;
 }
 
@@ -75,9 +77,9 @@ void reportReset(Launcher& launcher)
     startUp.VersionUpdate = false;
     const bool unreadable = std::exchange(startUp.ConfigReadError, false);
     launcher.window.show();
-    const QString reason = unreadable
-        ? u"Corrupt config file detected required the launcher configurations to     "_s
-        : u"The latest version upgrade required the launcher configurations to     "_s;
+    const QString reason =
+        unreadable ? u"Corrupt config file detected required the launcher configurations to     "_s
+                   : u"The latest version upgrade required the launcher configurations to     "_s;
     launcher.prompts.MsgboxPos(
         reason + u"\r\n"_s + u" be reset to the default settings, please reconfigure your settings. "_s,
         Msg::Ok + Msg::SystemModal, u" Version update "_s + launcher.settings.LauncherVersion);
@@ -103,6 +105,8 @@ void LoadMainWindow(Launcher& launcher)
     Controls& controls = launcher.controls;
     Settings& settings = launcher.settings;
 
+    if (!launcher.font.FontName.isEmpty())
+        launcher.window.checkFont(launcher.font);
     createOwnFolders(launcher);
     LoadSettings(launcher);
     if (launcher.startUp.ShuttingDown)
@@ -111,6 +115,7 @@ void LoadMainWindow(Launcher& launcher)
     GetTitlePic(launcher);
     if (!settings.AdvancedOptions)
         DefaultMode(launcher);
+    launcher.window.refresh(); // the window has its height from here on
 
     BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
     if (!launcher.iwads.anyKnown())
@@ -160,9 +165,9 @@ void UnloadMainWindow(Launcher& launcher)
         if (!launcher.startUp.VersionUpdate)
             SaveSettings(launcher);
     } catch (const FileError&) {
-        launcher.prompts.MsgboxPos(u"The settings could not be saved to    \r\n"_s
-                + NativePath(ConfigPath(launcher)) + u"    "_s,
-            Msg::Ok + Msg::Exclamation, u" Access error"_s);
+        launcher.prompts.MsgboxPos(u"The settings could not be saved to    \r\n"_s +
+                                       NativePath(ConfigPath(launcher)) + u"    "_s,
+                                   Msg::Ok + Msg::Exclamation, u" Access error"_s);
     }
 }
 
@@ -173,8 +178,8 @@ void ActivateMainWindow(Launcher& launcher)
         controls.PwadList.select(0);
     if (!launcher.files.fileExists(launcher.paths.LaunchPath + u"music/auto-playlist.vyk"_s))
         controls.chkSound[4].setTicked(false);
-    if (launcher.launch.AfterLaunch)
-        RefreshSaveGames(launcher);
+    LaunchState& launch = launcher.launch;
+    launch.AfterLaunch = launch.AfterLaunch && RefreshSaveGames(launcher);
 }
 
 void ResizeMainWindow(Launcher& launcher)

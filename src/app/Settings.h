@@ -2,10 +2,15 @@
 
 #include <QString>
 
+#include <limits>
+
 // Everything the player set, as config.vyk stores it (SettingsTable.h has the lines and the defaults).
 // Most fields mirror one option control; `on` in the rules means the field, `ticked` the control.
 struct Settings
 {
+    // No position was saved: the window is centred.
+    static constexpr int unknownPosition = std::numeric_limits<int>::min();
+
     QString LauncherVersion;
     int LastSkill = 0;
     int TitlePicIndex = 0;
@@ -86,8 +91,8 @@ struct Settings
     bool SpareSound8 = false;
     bool PlaylistFrameHidden = false;
     QString ReservedText81;
-    int WindowTop = 0; // layout units
-    int WindowLeft = 0;
+    int WindowTop = unknownPosition; // layout units
+    int WindowLeft = unknownPosition;
 
     // Not in config.vyk: the folder of the player's high-resolution textures (texpath.vyk).
     QString TexturePath;

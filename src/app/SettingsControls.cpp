@@ -12,14 +12,15 @@ void readRow(const SettingRow& row, Settings& settings, Controls& controls)
     if (const auto* check = std::get_if<CheckMirror>(&row.mirror))
         settings.*std::get<bool Settings::*>(row.member) = check->box(controls).ticked();
     else if (const auto* list = std::get_if<DropDownText>(&row.mirror))
-        settings.*std::get<int Settings::*>(row.member) = list->list(controls).currentText().trimmed().toInt();
+        settings.*std::get<int Settings::*>(row.member) =
+            list->list(controls).currentText().trimmed().toInt();
     else if (const auto* index = std::get_if<DropDownIndex>(&row.mirror))
         settings.*std::get<int Settings::*>(row.member) = index->list(controls).selected();
     else if (const auto* buttons = std::get_if<ButtonsMirror>(&row.mirror))
         settings.*std::get<int Settings::*>(row.member) = buttons->buttons(controls).selected();
     else if (const auto* text = std::get_if<TextMirror>(&row.mirror)) {
         if (const auto* number = std::get_if<int Settings::*>(&row.member))
-            settings.**number = text->box(controls).number();
+            settings.** number = text->box(controls).number();
         else
             settings.*std::get<QString Settings::*>(row.member) = text->box(controls).text;
     }

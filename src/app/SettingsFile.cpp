@@ -59,9 +59,9 @@ Settings DefaultSettings()
     Settings settings;
     for (const SettingRow& row : SettingsTable()) {
         if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
-            settings.**flag = std::get<bool>(row.start);
+            settings.** flag = std::get<bool>(row.start);
         else if (const auto* number = std::get_if<int Settings::*>(&row.member))
-            settings.**number = std::get<int>(row.start);
+            settings.** number = std::get<int>(row.start);
         else
             settings.*std::get<QString Settings::*>(row.member) =
                 QString::fromUtf16(std::get<const char16_t*>(row.start));
@@ -76,7 +76,7 @@ ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withP
             return ReadResult::Stopped;
         const QString& line = lines.at(row.line - 1);
         if (const auto* text = std::get_if<QString Settings::*>(&row.member)) {
-            settings.**text = line;
+            settings.** text = line;
             continue;
         }
         const std::optional<double> number = numberOf(line);
@@ -85,7 +85,7 @@ ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withP
         if (!fits(*number, row.kind))
             return ReadResult::Stopped;
         if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
-            settings.**flag = *number != 0;
+            settings.** flag = *number != 0;
         else
             settings.*std::get<int Settings::*>(row.member) = static_cast<int>(*number);
     }

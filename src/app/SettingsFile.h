@@ -6,7 +6,7 @@
 
 // The lines of config.vyk.
 
-// Every setting's default; the window position is 0.
+// Every setting's default.
 Settings DefaultSettings();
 
 enum class ReadResult {

@@ -13,7 +13,7 @@ namespace {
 QPoint centred(const MainWindowHost& window)
 {
     return {(window.screenSize().width() - window.size().width()) / 2,
-        (window.screenSize().height() - window.size().height()) / 2};
+            (window.screenSize().height() - window.size().height()) / 2};
 }
 
 QString firstLineOf(const FileSystem& files, const QString& path)
@@ -33,7 +33,7 @@ void reportCorruptConfig(Launcher& launcher)
     SetConfigAside(launcher);
     launcher.prompts.MsgboxPos(u" The Launcher has detected a configuration error, the default  \r\n"
                                " settings will be reset, please reconfigure launcher settings. "_s,
-        Msg::Ok + Msg::SystemModal, u" Configuration error detected"_s);
+                               Msg::Ok + Msg::SystemModal, u" Configuration error detected"_s);
     RestartLauncher(launcher);
     ShutDownLauncher(launcher);
 }
@@ -62,25 +62,22 @@ void UseDefaultSettings(Launcher& launcher)
     const QString texturePath = launcher.settings.TexturePath;
     launcher.settings = DefaultSettings();
     launcher.settings.TexturePath = texturePath;
-    const QPoint centre = centred(launcher.window);
-    launcher.settings.WindowTop = centre.y();
-    launcher.settings.WindowLeft = centre.x();
 }
 
 ReadResult ReadStoredSettings(Launcher& launcher)
 {
     const FileSystem& files = launcher.files;
     UseDefaultSettings(launcher);
-    launcher.settings.TexturePath
-        = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"texpath.vyk"_s));
-    const QString archives
-        = WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"archives.vyk"_s));
+    launcher.settings.TexturePath =
+        WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"texpath.vyk"_s));
+    const QString archives =
+        WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"archives.vyk"_s));
     if (!archives.isEmpty())
         launcher.paths.ArchivesPath = archives;
     try {
         if (files.fileExists(ConfigPath(launcher)))
             return ReadSettings(launcher.settings, ReadLines(files, ConfigPath(launcher)),
-                !launcher.startUp.RunningUnderWine);
+                                !launcher.startUp.RunningUnderWine);
     } catch (const FileError&) {
         // What could not be read keeps its default.
     }
@@ -111,7 +108,8 @@ void LoadSettings(Launcher& launcher)
 void SaveSettings(Launcher& launcher)
 {
     Settings& settings = launcher.settings;
-    (settings.AutoSelect ? settings.SelectedGameAutoOn : settings.SelectedGameAutoOff) = settings.SelectedGame;
+    (settings.AutoSelect ? settings.SelectedGameAutoOn : settings.SelectedGameAutoOff) =
+        settings.SelectedGame;
     WriteLines(launcher.files, ConfigPath(launcher),
-        SettingsLines(settings, !launcher.startUp.RunningUnderWine));
+               SettingsLines(settings, !launcher.startUp.RunningUnderWine));
 }

@@ -24,7 +24,7 @@ void CorrectSettings(Launcher& launcher);
 // set aside: a restart would only find it again.
 void LoadSettings(Launcher& launcher);
 
-// Every default; the window is centred.
+// Every default; the window position is unknown.
 void UseDefaultSettings(Launcher& launcher);
 
 // Writes config.vyk whole. Throws FileError.

@@ -89,8 +89,8 @@ constexpr SettingRow rows[] = {
     {79, Flag, &Settings::SpareSound8, false, CheckMirror{[](Controls& c) -> CheckBox& { return c.chkSound[8]; }}},
     {80, Flag, &Settings::PlaylistFrameHidden, true, NoMirror{}},
     {81, Text, &Settings::ReservedText81, u"", NoMirror{}},
-    {82, LongNumber, &Settings::WindowTop, 0, NoMirror{}},
-    {83, LongNumber, &Settings::WindowLeft, 0, NoMirror{}},
+    {82, LongNumber, &Settings::WindowTop, Settings::unknownPosition, NoMirror{}},
+    {83, LongNumber, &Settings::WindowLeft, Settings::unknownPosition, NoMirror{}},
 };
 // clang-format on
 

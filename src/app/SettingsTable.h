@@ -8,10 +8,10 @@
 
 // How a line of config.vyk is written.
 enum class LineKind {
-    Text, // the whole line
-    Number, // 16 bits, signed
+    Text,       // the whole line
+    Number,     // 16 bits, signed
     LongNumber, // 32 bits, signed
-    Flag, // 1 or 0
+    Flag,       // 1 or 0
 };
 
 using SettingMember = std::variant<bool Settings::*, int Settings::*, QString Settings::*>;

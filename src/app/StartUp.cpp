@@ -61,28 +61,28 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
     if (!missing.isEmpty()) {
         launcher.window.show();
         launcher.prompts.MsgboxPos(missing + u" has not been detected - re-install Keldrax.    "_s,
-            Msg::Ok + Msg::SystemModal, u"Startup error"_s);
+                                   Msg::Ok + Msg::SystemModal, u"Startup error"_s);
         ShutDownLauncher(launcher);
         return StartResult::Ended;
     }
 
-    startUp.WindowCaption
-        = u"VYKLauncher "_s + startUp.LauncherVersion + u"  and  "_s + startUp.EngineVersion;
+    startUp.WindowCaption =
+        u"VYKLauncher "_s + startUp.LauncherVersion + u"  and  "_s + startUp.EngineVersion;
     startUp.RunningUnderWine = isArgument(arguments, u"/WINE"_s);
     if (isArgument(arguments, u"/RESTART"_s)) {
         services.claimInstanceWhenFree();
     } else if (!services.claimInstance()) {
         if (!services.activateRunningInstance())
             launcher.prompts.MsgboxPos(u"The VYKLauncher is already running but does not answer.    "_s,
-                Msg::Ok + Msg::Exclamation, u"Startup error"_s);
+                                       Msg::Ok + Msg::Exclamation, u"Startup error"_s);
         return StartResult::Ended;
     }
 
-    if (!services.componentsPresent())
-        throw MissingComponent();
     LoadMainWindow(launcher);
     if (startUp.ShuttingDown)
         return StartResult::Ended;
+    if (!services.componentsPresent())
+        throw MissingComponent();
     launcher.window.show();
     if (launcher.settings.ShowTipsAtStartup)
         services.showTips();
@@ -100,15 +100,15 @@ void reportStartUpError(Launcher& launcher, StartUpError error)
     case StartUpError::NoAccess:
         return report(u"   You appear to have restricted access with this user account, Keldrax        \r\n"
                       "    requires a UAC with a higher privilege level before it will run."_s,
-            Msg::Exclamation, u"Restricted Window's User Account Control"_s);
+                      Msg::Exclamation, u"Restricted Window's User Account Control"_s);
     case StartUpError::MissingComponent:
         return report(u"   Unable to run the VYKlauncher due to missing or unregistered       \r\n"
                       "   dependencies, re-install the program using the Keldrax setup."_s,
-            Msg::Critical, u"Installation error"_s);
+                      Msg::Critical, u"Installation error"_s);
     case StartUpError::Unknown:
         return report(u"   Unable to run the VYKlauncher due to unknown error      \r\n"
                       "  please report error to the Keldrax development team."_s,
-            Msg::Critical, u"Unknown Error"_s);
+                      Msg::Critical, u"Unknown Error"_s);
     }
 }
 
@@ -161,6 +161,6 @@ void ShutDownLauncher(Launcher& launcher)
 
 void RestartLauncher(Launcher& launcher)
 {
-    launcher.processes.start(
-        u'"' + launcher.paths.RootPath + u"/bin/VYKlauncher.exe\" /RESTART"_s, launcher.paths.RootPath);
+    launcher.processes.start(u'"' + launcher.paths.RootPath + u"/bin/VYKlauncher.exe\" /RESTART"_s,
+                             launcher.paths.RootPath);
 }

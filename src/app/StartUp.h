@@ -10,14 +10,14 @@ struct StartUpServices
     // Takes the place of the one running launcher: false when another one holds it.
     std::function<bool()> claimInstance;
     std::function<bool()> activateRunningInstance; // false when it does not answer
-    std::function<void()> claimInstanceWhenFree; // a restart: the old launcher is just ending
-    std::function<bool()> componentsPresent; // what the program needs of its libraries at run time
+    std::function<void()> claimInstanceWhenFree;   // a restart: the old launcher is just ending
+    std::function<bool()> componentsPresent;       // what the program needs of its libraries at run time
     std::function<void()> showTips;
 };
 
 enum class StartResult {
     Running, // the main window is shown: the event loop takes over
-    Ended, // a message told why, or a running launcher was activated
+    Ended,   // a message told why, or a running launcher was activated
 };
 
 // The start-up sequence. `arguments` is the launcher's own command line, as one text.

@@ -1,8 +1,8 @@
 #include "app/StripBar.h"
 
-
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -38,14 +38,24 @@ StripBar::StripBar(Controls& controls, ControlBinder& binder, QWidget* parent) :
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(8);
     rows->addLayout(playRow(controls, binder));
-    m_panel = commandPanel(controls, binder);
-    rows->addWidget(m_panel);
+    rows->addWidget(commandPanel(controls, binder));
     rows->addLayout(launchRow(controls, binder));
 }
 
-int StripBar::panelHeight() const
+void StripBar::enlargeLaunch()
 {
-    return m_panel->sizeHint().height() + layout()->spacing();
+    constexpr double larger = 1.25;
+    QFont font;
+    font.setBold(true);
+    font.setPointSizeF(this->font().pointSizeF() * larger);
+    m_launch->setFont(font);
+}
+
+void StripBar::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && m_launch)
+        enlargeLaunch();
 }
 
 QBoxLayout* StripBar::playRow(Controls& controls, ControlBinder& binder)
@@ -117,10 +127,8 @@ QBoxLayout* StripBar::launchRow(Controls& controls, ControlBinder& binder)
 {
     auto* launch = new QPushButton;
     launch->setMinimumSize(200, 40);
-    QFont font = launch->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.25);
-    launch->setFont(font);
+    m_launch = launch;
+    enlargeLaunch();
     binder.bind(u"LaunchButton"_s, controls.LaunchButton, launch);
 
     auto* row = new QHBoxLayout;

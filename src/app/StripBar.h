@@ -15,13 +15,14 @@ class StripBar : public QWidget
 public:
     StripBar(Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
 
-    // The command panel's height with the gap above it, in layout units.
-    int panelHeight() const;
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
+    void enlargeLaunch(); // its text, against the font of the others
     QBoxLayout* playRow(Controls& controls, ControlBinder& binder);
     QWidget* commandPanel(Controls& controls, ControlBinder& binder);
     QBoxLayout* launchRow(Controls& controls, ControlBinder& binder);
 
-    QWidget* m_panel = nullptr;
+    QWidget* m_launch = nullptr;
 };

@@ -20,7 +20,6 @@ const struct
 void ConnectWebLinks(Launcher& launcher)
 {
     for (const auto& link : links)
-        launcher.controls.Home[link.picture].clicked = [&launcher, address = QString::fromUtf16(link.address)] {
-            ShellOpen(launcher.prompts, address);
-        };
+        launcher.controls.Home[link.picture].clicked =
+            [&launcher, address = QString::fromUtf16(link.address)] { ShellOpen(launcher.prompts, address); };
 }

@@ -1,16 +1,37 @@
 #include "app/MainForm.h"
 #include "app/StartUp.h"
 #include "platform/DiskFileSystem.h"
+#include "platform/FontWarmUp.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemProcesses.h"
 #include "ui/PromptsView.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QFontMetrics>
 #include <QImageReader>
+
+#include <future>
+
+namespace {
+
+// The title pictures need Qt's JPEG plugin; asking for that one loads no other.
+bool canReadJpeg()
+{
+    QByteArray start("\xFF\xD8\xFF");
+    QBuffer device(&start);
+    return device.open(QIODevice::ReadOnly) && QImageReader(&device, "jpg").canRead();
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
+    const std::jthread fonts = WarmUpFonts();
     const QApplication application(argc, argv);
+    // Both go on beside the launcher's load, which needs neither.
+    const std::jthread families([] { QFontMetrics(QFont()).horizontalAdvance(u'x'); });
+    std::future<bool> jpeg = std::async(std::launch::async, canReadJpeg);
     const QString root = InstallationPaths::rootOf(QApplication::applicationFilePath());
 
     DiskFileSystem files;
@@ -18,7 +39,7 @@ int main(int argc, char** argv)
     MainForm window;
     PromptsView prompts(&window);
     Launcher launcher(files, processes, prompts, window, root);
-    window.build(launcher);
+    window.attach(launcher);
 
     SingleInstance instance(root);
     const auto activate = [&window] { window.bringToFront(); };
@@ -26,7 +47,7 @@ int main(int argc, char** argv)
         .claimInstance = [&] { return instance.claim(activate); },
         .activateRunningInstance = [&] { return instance.activateRunning(); },
         .claimInstanceWhenFree = [&] { instance.claimWhenFree(activate); },
-        .componentsPresent = [] { return QImageReader::supportedImageFormats().contains("jpg"); },
+        .componentsPresent = [&] { return jpeg.get(); },
         .showTips = [] {},
     };
     const QString arguments = QApplication::arguments().mid(1).join(u' ');

@@ -26,8 +26,8 @@ QString heading(const Launcher& launcher, int view)
         return u"INSTALLED GAMES LIST"_s;
     if (view == doomGames)
         return u"COMMERCIAL DOOM LIST"_s;
-    const bool custom = launcher.files.fileExists(launcher.paths.LaunchDataPath + u"archives.vyk"_s)
-        && launcher.files.folderExists(launcher.paths.ArchivesPath);
+    const bool custom = launcher.files.fileExists(launcher.paths.LaunchDataPath + u"archives.vyk"_s) &&
+                        launcher.files.folderExists(launcher.paths.ArchivesPath);
     return custom ? u"CUSTOM ZIP LIBRARY"_s : u"ZIP LIBRARY"_s;
 }
 
@@ -49,8 +49,8 @@ void doomGameClicked(Launcher& launcher, const QString& title)
     selection.DoomGameSelected = true;
     launcher.controls.MainForm.saveGamesTall = true;
     launcher.settings.SelectedDoomGame = title;
-    selection.SaveGameFolder
-        = launcher.paths.RootPath + u"/UserSG/"_s + QString::fromUtf16(RowOf(*family).key) + u"/savegame"_s;
+    selection.SaveGameFolder =
+        launcher.paths.RootPath + u"/UserSG/"_s + QString::fromUtf16(RowOf(*family).key) + u"/savegame"_s;
     selection.SelectedWadPath = iwad;
     selection.SelectedGameFolder = FolderOf(iwad) + u'/';
     listFiles(launcher, {FileNameOf(iwad)});
@@ -64,12 +64,13 @@ void installedGameClicked(Launcher& launcher, const QString& name)
     ClassifySelectedGame(launcher, name);
     launcher.settings.SelectedGame = name;
     (selection.GwadSelected ? selection.SelectedGwadGame : selection.SelectedPwadGame) = name;
-    const QString folder = launcher.files.actualPath(
-        launcher.paths.GamesPath + name + (selection.GwadSelected ? u"/Gwads"_s : u"/Pwads"_s));
+    const QString folder = launcher.files.actualPath(launcher.paths.GamesPath + name +
+                                                     (selection.GwadSelected ? u"/Gwads"_s : u"/Pwads"_s));
     selection.SelectedGameFolder = folder + u'/';
-    listFiles(launcher, GameFilesOf(launcher.files, selection.SelectedGameFolder, launcher.settings.WadFilesOnly));
-    launcher.controls.MainForm.saveGamesTall
-        = !selection.GwadSelected && launcher.controls.PwadShowlist.count() < manyFiles;
+    listFiles(launcher,
+              GameFilesOf(launcher.files, selection.SelectedGameFolder, launcher.settings.WadFilesOnly));
+    launcher.controls.MainForm.saveGamesTall =
+        !selection.GwadSelected && launcher.controls.PwadShowlist.count() < manyFiles;
     launcher.controls.MapList.clear();
     selection.SaveGameFolder.clear();
     ChooseMainWad(launcher, selection.SelectedGameFolder);
@@ -96,11 +97,10 @@ void gameClicked(Launcher& launcher)
 void gameFileClicked(Launcher& launcher)
 {
     Selection& selection = launcher.selection;
-    selection.SelectedGameFile
-        = selection.SelectedGameFolder + launcher.controls.PwadShowlist.selectedText();
+    selection.SelectedGameFile = selection.SelectedGameFolder + launcher.controls.PwadShowlist.selectedText();
     if (!selection.DoomGameSelected)
-        selection.SaveGameFolder = launcher.paths.RootPath + u"/UserSG/"_s
-            + BaseNameOf(selection.SelectedGameFile) + u"/savegame"_s;
+        selection.SaveGameFolder =
+            launcher.paths.RootPath + u"/UserSG/"_s + BaseNameOf(selection.SelectedGameFile) + u"/savegame"_s;
     ListWadMaps(launcher, selection.SelectedGameFile);
     ListSaveGames(launcher);
     if (launcher.launch.StartChoice != StartChoice::NewGame)
@@ -137,8 +137,8 @@ void OptionUdirClick(Launcher& launcher, int view)
     controls.OptionUdir.startAs(view);
     for (int i = 0; i < controls.OptionUdir.count(); ++i)
         controls.OptionUdir[i].colour = i == view ? Colour::Accent : Colour::Normal;
-    controls.PwadList.toolTip
-        = controls.chkLaunchPrefs[3].ticked() ? QString() : u" Right click on selected game for tasks menu. "_s;
+    controls.PwadList.toolTip =
+        controls.chkLaunchPrefs[3].ticked() ? QString() : u" Right click on selected game for tasks menu. "_s;
 
     launcher.settings.ListMode = view;
     controls.ImageCM.visible = false;
@@ -164,8 +164,8 @@ void FillInstalledGamesList(Launcher& launcher)
     list.clear();
     const QString games = launcher.paths.GamesPath;
     for (const QString& name : launcher.files.folders(games))
-        if (launcher.files.folderExists(games + name + u"/Pwads"_s)
-            || launcher.files.folderExists(games + name + u"/Gwads"_s))
+        if (launcher.files.folderExists(games + name + u"/Pwads"_s) ||
+            launcher.files.folderExists(games + name + u"/Gwads"_s))
             list.add(launcher.font.CustomFontOn ? name : name.toUpper());
 }
 
@@ -195,13 +195,13 @@ void FillArchiveList(Launcher& launcher, const QString& folder)
 
 void ClassifySelectedGame(Launcher& launcher, const QString& name)
 {
-    launcher.selection.GwadSelected
-        = launcher.files.folderExists(launcher.paths.GamesPath + name + u"/Gwads"_s);
+    launcher.selection.GwadSelected =
+        launcher.files.folderExists(launcher.paths.GamesPath + name + u"/Gwads"_s);
     launcher.selection.PwadSelected = !launcher.selection.GwadSelected;
 }
 
 bool CanLaunchSelection(const Launcher& launcher)
 {
-    return launcher.settings.ListMode == doomGames && !launcher.controls.PwadShowlist.isEmpty()
-        && launcher.controls.OptionTabs.selected() == 0;
+    return launcher.settings.ListMode == doomGames && !launcher.controls.PwadShowlist.isEmpty() &&
+           launcher.controls.OptionTabs.selected() == 0;
 }

@@ -29,8 +29,8 @@ QLabel* heading(Controls& controls, ControlBinder& binder, int index)
     return label;
 }
 
-ListView* list(ControlBinder& binder, ListBox& control, const QString& objectName, const QString& accessibleName,
-    const QString& whyEmpty)
+ListView* list(ControlBinder& binder, ListBox& control, const QString& objectName,
+               const QString& accessibleName, const QString& whyEmpty)
 {
     auto* view = new ListView(whyEmpty);
     view->setAccessibleName(accessibleName);
@@ -70,10 +70,10 @@ QBoxLayout* GamesPage::gamesColumn(Controls& controls, ControlBinder& binder)
 
 QBoxLayout* GamesPage::filesColumn(Controls& controls, ControlBinder& binder)
 {
-    ListView* files
-        = list(binder, controls.PwadShowlist, u"PwadShowlist"_s, u"Game files"_s, u"No game is selected"_s);
-    ListView* saves
-        = list(binder, controls.SaveGameList, u"SaveGameList"_s, u"Savegames"_s, u"No savegames yet"_s);
+    ListView* files =
+        list(binder, controls.PwadShowlist, u"PwadShowlist"_s, u"Game files"_s, u"No game is selected"_s);
+    ListView* saves =
+        list(binder, controls.SaveGameList, u"SaveGameList"_s, u"Savegames"_s, u"No savegames yet"_s);
     auto* column = newColumn();
     column->addWidget(heading(controls, binder, 1));
     column->addWidget(files);

@@ -9,9 +9,9 @@ struct Selection
     QString SelectedPwadGame;
     QString SelectedGwadGame;
     QString SelectedGameFolder; // ends in '/'
-    QString SelectedGameFile; // the main WAD's path; empty when none is chosen
-    QString SelectedWadPath; // the WAD whose maps are shown: for a Doom game its IWAD
-    QString GameUserDir; // the game's own folder name; for a zip the folder of its files
+    QString SelectedGameFile;   // the main WAD's path; empty when none is chosen
+    QString SelectedWadPath;    // the WAD whose maps are shown: for a Doom game its IWAD
+    QString GameUserDir;        // the game's own folder name; for a zip the folder of its files
 
     // At most one is set.
     bool DoomGameSelected = false;

@@ -27,7 +27,8 @@ std::optional<GameFamily> FamilyOfIwad(const QString& path)
 
 std::optional<GameFamily> FamilyOfTitle(const QString& title)
 {
-    return familyWhere([&](const GameFamilyRow& row) { return SameName(title, QString::fromUtf16(row.title)); });
+    return familyWhere(
+        [&](const GameFamilyRow& row) { return SameName(title, QString::fromUtf16(row.title)); });
 }
 
 QString DisplayTitle(GameFamily family, bool customFontOn)

@@ -12,7 +12,7 @@ struct GameFamilyRow
 {
     GameFamily family;
     const char16_t* title; // shown with a launcher font; in upper case without
-    const char16_t* key; // of record files and savegame folders
+    const char16_t* key;   // of record files and savegame folders
     const char16_t* iwadName;
 };
 

@@ -47,7 +47,8 @@ void IwadDialog::search()
     QStringList storedFiles;
     SearchIwads(m_launcher.iwads, storedFiles, m_launcher.files, m_launcher.paths, m_launcher.environment);
     auto& boxes = m_launcher.iwads.ShowIwads;
-    std::copy_n(storedFiles.cbegin(), std::min<qsizetype>(storedFiles.size(), std::ssize(boxes)), boxes.begin());
+    std::copy_n(storedFiles.cbegin(), std::min<qsizetype>(storedFiles.size(), std::ssize(boxes)),
+                boxes.begin());
     m_warningShown = boxes[0].isEmpty();
     listDoomGames();
 }
@@ -59,7 +60,8 @@ void IwadDialog::reset()
     m_canSearch = true;
     Controls& controls = m_launcher.controls;
     if (m_launcher.settings.ListMode == doomGames)
-        for (ListBox* list : {&controls.PwadList, &controls.PwadShowlist, &controls.MapList, &controls.SaveGameList})
+        for (ListBox* list :
+             {&controls.PwadList, &controls.PwadShowlist, &controls.MapList, &controls.SaveGameList})
             list->clear();
     controls.LaunchButton.enabled = CanLaunchSelection(m_launcher);
 }
@@ -75,7 +77,8 @@ bool IwadDialog::checkIwad(const QString& path)
 void IwadDialog::addIwad()
 {
     IwadPaths& iwads = m_launcher.iwads;
-    QString folder = m_launcher.files.folderExists(iwads.IwadFolder) ? iwads.IwadFolder : m_launcher.paths.RootPath;
+    QString folder =
+        m_launcher.files.folderExists(iwads.IwadFolder) ? iwads.IwadFolder : m_launcher.paths.RootPath;
     if (!m_lastFolder.isEmpty())
         folder = iwads.IwadFolder = m_lastFolder;
     const QString chosen = m_launcher.prompts.chooseFile(
@@ -83,7 +86,8 @@ void IwadDialog::addIwad()
     if (!chosen.isEmpty()) {
         m_lastFolder = FolderOf(chosen);
         auto& boxes = iwads.ShowIwads;
-        const auto box = std::ranges::find_if(boxes, [](const QString& text) { return !EndsWith(text, u".wad"_s); });
+        const auto box =
+            std::ranges::find_if(boxes, [](const QString& text) { return !EndsWith(text, u".wad"_s); });
         if (box == boxes.end())
             return;
         *box = chosen;
@@ -91,7 +95,7 @@ void IwadDialog::addIwad()
         if (!checkIwad(chosen)) {
             box->clear();
             m_launcher.prompts.MsgboxPos(u"This does not appear to be a correct Doom Iwad.   "_s,
-                Msg::Ok + Msg::Information, QString());
+                                         Msg::Ok + Msg::Information, QString());
             return;
         }
         m_canSearch = false;
@@ -102,7 +106,7 @@ void IwadDialog::addIwad()
         SaveIwadList(iwads, m_launcher.files, m_launcher.paths);
     } catch (const FileError&) {
         m_launcher.prompts.MsgboxPos(u"The Iwad locations could not be saved.    "_s,
-            Msg::Ok + Msg::Exclamation, u" Access error"_s);
+                                     Msg::Ok + Msg::Exclamation, u" Access error"_s);
     }
 }
 

@@ -13,10 +13,10 @@ public:
     bool canAdd() const { return m_canAdd; }
 
     void activate(); // the dialog is about to be shown
-    void search(); // butSearchIwad
-    void reset(); // butReset
-    void addIwad(); // butAddIwad
-    bool accept(); // butOK: true when the dialog closes
+    void search();   // butSearchIwad
+    void reset();    // butReset
+    void addIwad();  // butAddIwad
+    bool accept();   // butOK: true when the dialog closes
     void openHelp(); // a click on the warning
 
 private:

@@ -27,7 +27,11 @@ const struct
 } // namespace
 
 IwadForm::IwadForm(Launcher& launcher, QWidget* parent)
-    : QDialog(parent), m_launcher(launcher), m_dialog(launcher), m_warning(warningFrame()), m_boxes(new QWidget)
+    : QDialog(parent),
+      m_launcher(launcher),
+      m_dialog(launcher),
+      m_warning(warningFrame()),
+      m_boxes(new QWidget)
 {
     setWindowTitle(u" Iwad Locations"_s);
     setObjectName(u"IwadForm"_s);
@@ -44,7 +48,8 @@ IwadForm::IwadForm(Launcher& launcher, QWidget* parent)
     }
 
     auto* buttons = new QHBoxLayout;
-    const auto button = [&](const QString& name, const QString& caption, const QString& toolTip, auto pressed) {
+    const auto button = [&](const QString& name, const QString& caption, const QString& toolTip,
+                            auto pressed) {
         auto* widget = new QPushButton(caption);
         widget->setObjectName(name);
         widget->setAutoDefault(false);
@@ -60,10 +65,13 @@ IwadForm::IwadForm(Launcher& launcher, QWidget* parent)
             write();
         };
     };
-    m_search = button(u"butSearchIwad"_s, u"Search"_s, u"Scan for compliant Iwad locations."_s, then(&IwadDialog::search));
-    m_reset = button(u"butReset"_s, u"Reset"_s, u"Clears Iwad locations from list."_s, then(&IwadDialog::reset));
+    m_search = button(u"butSearchIwad"_s, u"Search"_s, u"Scan for compliant Iwad locations."_s,
+                      then(&IwadDialog::search));
+    m_reset =
+        button(u"butReset"_s, u"Reset"_s, u"Clears Iwad locations from list."_s, then(&IwadDialog::reset));
     m_add = button(u"butAddIwad"_s, u"Add Iwad"_s,
-        u"User can add Iwads if a compliant\r\nIwad location is not detected."_s, then(&IwadDialog::addIwad));
+                   u"User can add Iwads if a compliant\r\nIwad location is not detected."_s,
+                   then(&IwadDialog::addIwad));
     buttons->addStretch();
     m_ok = button(u"butOK"_s, u"OK"_s, u"Accept changes if any and exit."_s, [this] { acceptChanges(); });
     m_ok->setDefault(true);
@@ -109,7 +117,7 @@ void IwadForm::show()
 
 void IwadForm::acceptChanges()
 {
-    if (m_dialog.accept())
+    if (m_launcher.startUp.ShuttingDown || m_dialog.accept())
         accept();
     else
         write();

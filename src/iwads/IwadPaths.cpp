@@ -34,7 +34,13 @@ bool IwadPaths::anyKnown() const
 
 IwadEnvironment IwadEnvironment::ofProcess()
 {
-    return {WithSlashes(qEnvironmentVariable("$DOOMWADDIR")), WithSlashes(qEnvironmentVariable("DOOMWADDIR"))};
+    const auto folder = [](const char* variable) {
+        QString path = WithSlashes(qEnvironmentVariable(variable));
+        while (path.size() > 1 && path.endsWith(u'/'))
+            path.chop(1);
+        return path;
+    };
+    return {folder("$DOOMWADDIR"), folder("DOOMWADDIR")};
 }
 
 void AddIwad(IwadPaths& iwads, QStringList& storedFiles, const QString& path)
@@ -47,7 +53,7 @@ void AddIwad(IwadPaths& iwads, QStringList& storedFiles, const QString& path)
 }
 
 void SearchIwads(IwadPaths& iwads, QStringList& storedFiles, const FileSystem& files,
-    const InstallationPaths& paths, const IwadEnvironment& environment)
+                 const InstallationPaths& paths, const IwadEnvironment& environment)
 {
     const auto probe = [&](const QString& folder, const QString& name) {
         if (folder.isEmpty())
@@ -72,7 +78,8 @@ void SearchIwads(IwadPaths& iwads, QStringList& storedFiles, const FileSystem& f
         probe(folder, shareware);
 }
 
-void LoadIwadList(IwadPaths& iwads, QStringList& storedFiles, FileSystem& files, const InstallationPaths& paths)
+void LoadIwadList(IwadPaths& iwads, QStringList& storedFiles, FileSystem& files,
+                  const InstallationPaths& paths)
 {
     const QString path = listPath(paths);
     if (!files.fileExists(path))
@@ -103,8 +110,8 @@ void SaveIwadList(const IwadPaths& iwads, FileSystem& files, const InstallationP
     WriteLines(files, listPath(paths), lines);
 }
 
-void BuildIwadList(
-    IwadPaths& iwads, FileSystem& files, const InstallationPaths& paths, const IwadEnvironment& environment)
+void BuildIwadList(IwadPaths& iwads, FileSystem& files, const InstallationPaths& paths,
+                   const IwadEnvironment& environment)
 {
     QStringList storedFiles;
     SearchIwads(iwads, storedFiles, files, paths, environment);
@@ -121,11 +128,12 @@ void BuildIwadList(
 }
 
 bool IsIwadMissing(const QString& fileName, const FileSystem& files, const InstallationPaths& paths,
-    const IwadEnvironment& environment)
+                   const IwadEnvironment& environment)
 {
     const QString name = BaseNameOf(fileName) + u".wad"_s;
-    for (const QString& folder : {environment.doomWadDir, environment.dollarDoomWadDir, paths.RootPath,
-             QString(paths.RootPath + u"/Data"_s), QString(paths.RootPath + u"/Iwads"_s)})
+    for (const QString& folder :
+         {environment.doomWadDir, environment.dollarDoomWadDir, paths.RootPath,
+          QString(paths.RootPath + u"/Data"_s), QString(paths.RootPath + u"/Iwads"_s)})
         if (!folder.isEmpty() && files.fileExists(folder + u'/' + name))
             return false;
     return true;
@@ -141,7 +149,7 @@ QStringList DoomGameTitles(const IwadPaths& iwads, bool customFontOn)
 {
     QStringList titles;
     for (const GameFamily family :
-        {GameFamily::Shareware, GameFamily::Doom, GameFamily::Doom2, GameFamily::Plutonia, GameFamily::Tnt})
+         {GameFamily::Shareware, GameFamily::Doom, GameFamily::Doom2, GameFamily::Plutonia, GameFamily::Tnt})
         if (!iwads.of(family).isEmpty())
             titles << DisplayTitle(family, customFontOn);
     return titles;

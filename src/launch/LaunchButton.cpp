@@ -13,8 +13,7 @@ LaunchResult LaunchSelectedGame(Launcher& launcher)
 {
     if (launcher.controls.MapList.entry(0).isEmpty()) {
         const QString tail = FileNameOf(launcher.selection.SelectedGameFile) + u" contains no levels.    "_s;
-        launcher.prompts.MsgboxPos(
-            u"The "_s + tail.toLower(), Msg::Ok + Msg::Information, u" Wad error"_s);
+        launcher.prompts.MsgboxPos(u"The "_s + tail.toLower(), Msg::Ok + Msg::Information, u" Wad error"_s);
         return LaunchResult::Refused;
     }
     if (!launcher.selection.DoomGameSelected)

@@ -13,10 +13,10 @@ LaunchResult LaunchCommercialGame(Launcher& launcher)
 
     PrepareLaunch(launcher);
     if (!CheckHudWeaponsDefs(launcher.settings, launcher.files, launcher.paths)) {
-        launcher.prompts.MsgboxPos(
-            u"There is a compatibility issue between the standard and enhanced models, enhanced models will not be used\r\n"
-            "update to the latest model packs.  "_s,
-            Msg::Ok + Msg::Information, u" Launch error"_s);
+        launcher.prompts.MsgboxPos(u"There is a compatibility issue between the standard and enhanced "
+                                   u"models, enhanced models will not be used\r\n"
+                                   "update to the latest model packs.  "_s,
+                                   Msg::Ok + Msg::Information, u" Launch error"_s);
         launcher.settings.TovrensReplacements = false;
     }
     CheckKelspackWad(launcher);
@@ -25,7 +25,7 @@ LaunchResult LaunchCommercialGame(Launcher& launcher)
     if (!launcher.files.fileExists(wad)) {
         launcher.prompts.MsgboxPos(u"There appears to be a problem with the IWAD location.\r\n"
                                    "Reset Iwads and do a search or enter new locations."_s,
-            Msg::Ok + Msg::Information, u" Setup error"_s);
+                                   Msg::Ok + Msg::Information, u" Setup error"_s);
         launcher.window.showIwadForm();
         launch.ShortcutMode = false;
         return LaunchResult::Refused;
@@ -33,7 +33,8 @@ LaunchResult LaunchCommercialGame(Launcher& launcher)
 
     QString commandLine = Engine + IwadArgument(launcher, wad);
     launch.AfterLaunch = true;
-    commandLine += OptionSwitches({.launcher = launcher, .path = LaunchPath::CommercialGame, .automaticPlaylist = {}});
+    commandLine +=
+        OptionSwitches({.launcher = launcher, .path = LaunchPath::CommercialGame, .automaticPlaylist = {}});
     commandLine += StartSwitches(launcher) + CustomText(launcher);
     return FinishLaunch(launcher, commandLine);
 }

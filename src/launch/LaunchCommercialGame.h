@@ -4,7 +4,7 @@
 
 enum class LaunchResult {
     Started,
-    Refused, // with a message
+    Refused,    // with a message
     HandedOver, // the arguments are in LaunchState::ShortcutArguments; nothing was written or started
 };
 

@@ -109,10 +109,10 @@ LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine)
         launcher.window.minimise();
     launch.RicochetOn = false;
     if (!launcher.processes.start(commandLine, launcher.paths.RootPath)) {
+        launch.AfterLaunch = false;
+        launcher.window.bringToFront(); // a message over a minimised window may not be seen
         launcher.prompts.MsgboxPos(u"Cannot execute! The command line was:\r\n"_s + commandLine, Msg::Ok,
                                    QString());
-        launch.AfterLaunch = false;
-        launcher.window.bringToFront();
         return LaunchResult::Refused;
     }
     if (launcher.settings.LastLaunchMode == exitMode)

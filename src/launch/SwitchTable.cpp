@@ -13,16 +13,40 @@ using In = const SwitchInputs&;
 // The conditions' own words. An option is `on` when its setting is; an option whose pack is missing, so
 // that its box is greyed, counts as off.
 
-const Settings& on(In in) { return in.launcher.settings; }
-const Controls& box(In in) { return in.launcher.controls; }
+const Settings& on(In in)
+{
+    return in.launcher.settings;
+}
+const Controls& box(In in)
+{
+    return in.launcher.controls;
+}
 
-bool commercial(In in) { return in.path == LaunchPath::CommercialGame; }
-bool notScripted(In in) { return !in.scriptedMap; }
-bool skillChosen(In in) { return on(in).Skill != 0; }
+bool commercial(In in)
+{
+    return in.path == LaunchPath::CommercialGame;
+}
+bool notScripted(In in)
+{
+    return !in.scriptedMap;
+}
+bool skillChosen(In in)
+{
+    return on(in).Skill != 0;
+}
 
-bool sound(In in) { return !on(in).DisableSound; }
-bool music(In in) { return sound(in) && !on(in).DisableMusic; }
-bool monsters(In in) { return !on(in).NoMonsters; }
+bool sound(In in)
+{
+    return !on(in).DisableSound;
+}
+bool music(In in)
+{
+    return sound(in) && !on(in).DisableMusic;
+}
+bool monsters(In in)
+{
+    return !on(in).NoMonsters;
+}
 bool kelspackAllowed(In in)
 {
     return !on(in).BasicDoom && !on(in).CoreEffects && !on(in).EditMode && !on(in).Fx;
@@ -35,10 +59,22 @@ bool consoleCommands(In in)
 {
     return !on(in).BasicDoom && (!commercial(in) || !on(in).Fx);
 }
-bool ricochets(In in) { return consoleCommands(in) && in.launcher.launch.RicochetOn; }
-bool light(In in) { return consoleCommands(in) && (commercial(in) || notScripted(in)); }
-bool basicDoom(In in) { return on(in).BasicDoom && notScripted(in); }
-bool grenades(In in) { return on(in).GrenadeLauncher && (commercial(in) || box(in).ChkGL.enabled); }
+bool ricochets(In in)
+{
+    return consoleCommands(in) && in.launcher.launch.RicochetOn;
+}
+bool light(In in)
+{
+    return consoleCommands(in) && (commercial(in) || notScripted(in));
+}
+bool basicDoom(In in)
+{
+    return on(in).BasicDoom && notScripted(in);
+}
+bool grenades(In in)
+{
+    return on(in).GrenadeLauncher && (commercial(in) || box(in).ChkGL.enabled);
+}
 
 QString playlistFile(In in, const QString& name)
 {
@@ -51,23 +87,86 @@ bool playlistExists(In in, const QString& name)
 bool ownTextureFolder(In in)
 {
     const QString location = WithSlashes(box(in).HiResText.text.trimmed());
-    return on(in).HighResTextures && (commercial(in) || !on(in).BasicDoom)
-        && !SameName(location, in.launcher.paths.RootPath + u"/Data/Textures"_s)
-        && in.launcher.files.folderExists(on(in).TexturePath);
+    return on(in).HighResTextures && (commercial(in) || !on(in).BasicDoom) &&
+           !SameName(location, in.launcher.paths.RootPath + u"/Data/Textures"_s) &&
+           in.launcher.files.folderExists(on(in).TexturePath);
 }
 
-QString quoted(const QString& value) { return value + u"\" "_s; }
-QString number(int value) { return QString::number(value) + u' '; }
+QString quoted(const QString& value)
+{
+    return value + u"\" "_s;
+}
+QString number(int value)
+{
+    return QString::number(value) + u' ';
+}
 
 enum class Switch {
-    DevelopmentMap, Kelspack, KelspackAlternative, Replacements, ScriptedModels, NoPatches, NoTextures,
-    TextureFolder, NoSound, SoundPack, Sound3D, Channels, UsualChannels, SkinScaling, NoMusic,
-    ManualPlaylist, AutomaticPlaylist, IgnorePlaylist, FmodMidi, Boom, CoreEffects, NoForcedModels, ExtraFx,
-    PistolZombies, NoMouse, NoSplashes, Respawn, RespawnInstalled, NoSameType, NoLostSoul, Grenades,
-    Pipebombs, NoMonsters, DetailTextures, NoJoystick, Skyboxes, ForcedSkyboxes, Resurrect, CorpseTime,
-    Console, Ricochets, NoRicochets, Light, NoLight, Smoke, NoSmoke, LessSmoke, Fast, NoCore, BasicEffects,
-    BasicNoSplashes, NoSprites, BasicConsole, BasicLight, BasicNoLight, StaticTextures, NextMap, MapFormat,
-    LateAlternative, Verbose, Skill, TextureEdit, Lean, NoObjects, LightLevel,
+    DevelopmentMap,
+    Kelspack,
+    KelspackAlternative,
+    Replacements,
+    ScriptedModels,
+    NoPatches,
+    NoTextures,
+    TextureFolder,
+    NoSound,
+    SoundPack,
+    Sound3D,
+    Channels,
+    UsualChannels,
+    SkinScaling,
+    NoMusic,
+    ManualPlaylist,
+    AutomaticPlaylist,
+    IgnorePlaylist,
+    FmodMidi,
+    Boom,
+    CoreEffects,
+    NoForcedModels,
+    ExtraFx,
+    PistolZombies,
+    NoMouse,
+    NoSplashes,
+    Respawn,
+    RespawnInstalled,
+    NoSameType,
+    NoLostSoul,
+    Grenades,
+    Pipebombs,
+    NoMonsters,
+    DetailTextures,
+    NoJoystick,
+    Skyboxes,
+    ForcedSkyboxes,
+    Resurrect,
+    CorpseTime,
+    Console,
+    Ricochets,
+    NoRicochets,
+    Light,
+    NoLight,
+    Smoke,
+    NoSmoke,
+    LessSmoke,
+    Fast,
+    NoCore,
+    BasicEffects,
+    BasicNoSplashes,
+    NoSprites,
+    BasicConsole,
+    BasicLight,
+    BasicNoLight,
+    StaticTextures,
+    NextMap,
+    MapFormat,
+    LateAlternative,
+    Verbose,
+    Skill,
+    TextureEdit,
+    Lean,
+    NoObjects,
+    LightLevel,
     Count
 };
 
@@ -203,7 +302,8 @@ constexpr Switch installedOrder[] = {
 };
 // clang-format on
 
-template <class Order> QString joined(const Order& order, In inputs)
+template <class Order>
+QString joined(const Order& order, In inputs)
 {
     QString line;
     for (const Switch name : order) {

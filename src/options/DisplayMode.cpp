@@ -31,8 +31,8 @@ void advancedClicked(Launcher& launcher)
 {
     const bool advanced = launcher.controls.chkMain[advancedBox].ticked();
     launcher.settings.AdvancedOptions = advanced;
-    launcher.controls.Auto[0].toolTip
-        = advanced ? u" Toggle Keldrax scripted maps if installed. "_s : QString();
+    launcher.controls.Auto[0].toolTip =
+        advanced ? u" Toggle Keldrax scripted maps if installed. "_s : QString();
     advanced ? AdvancedMode(launcher) : DefaultMode(launcher);
 }
 
@@ -43,8 +43,8 @@ void ConnectDisplayMode(Launcher& launcher)
     Controls& controls = launcher.controls;
     controls.chkMain[advancedBox].clicked = [&launcher] { advancedClicked(launcher); };
     controls.SelButton.clicked = [&launcher] {
-        const bool toEdit = launcher.settings.CommandPanelMode == commandLinePanel
-            && !launcher.startUp.RunningUnderWine;
+        const bool toEdit =
+            launcher.settings.CommandPanelMode == commandLinePanel && !launcher.startUp.RunningUnderWine;
         launcher.settings.CommandPanelMode = toEdit ? editPanel : commandLinePanel;
         SelectStartupOptions(launcher);
     };
@@ -71,8 +71,8 @@ void DefaultMode(Launcher& launcher)
 void SelectStartupOptions(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    const bool editing
-        = launcher.settings.CommandPanelMode == editPanel && !launcher.startUp.RunningUnderWine;
+    const bool editing =
+        launcher.settings.CommandPanelMode == editPanel && !launcher.startUp.RunningUnderWine;
     controls.FrameGlobal[0].caption = editing ? u"  VYK Edit  "_s : u"  Command Line  "_s;
     controls.FrameGlobal[1].visible = !editing;
     controls.FrameGlobal[2].visible = editing;

@@ -7,7 +7,7 @@
 // Which of the optional model packs are installed.
 struct ModelPacks
 {
-    bool ModelPacksMissing = true; // the base pack is not there
+    bool ModelPacksMissing = true;  // the base pack is not there
     bool KelspackInstalled = false; // the optional weapons
 };
 

@@ -18,8 +18,8 @@ const QString notInstalled = u"Not installed or the specified path is invalid"_s
 bool patchesBesideTextures(const Launcher& launcher)
 {
     const QString path = launcher.settings.TexturePath;
-    return !path.isEmpty() && (launcher.files.folderExists(path + u"/Patches"_s) ||
-                               launcher.files.folderExists(FolderOf(path) + u"/Patches"_s));
+    return launcher.files.folderExists(path) && (launcher.files.folderExists(path + u"/Patches"_s) ||
+                                                 launcher.files.folderExists(FolderOf(path) + u"/Patches"_s));
 }
 
 } // namespace

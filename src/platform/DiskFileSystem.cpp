@@ -256,6 +256,16 @@ void DiskFileSystem::write(const QString& path, const QByteArray& bytes)
     Replace(path, [&bytes](QSaveFile& file) { Append(file, bytes); });
 }
 
+void DiskFileSystem::overwrite(const QString& path, const QByteArray& bytes)
+{
+    const QString target = FindTarget(path).path;
+    RequireWritable(target);
+    QFile file(target);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+        Fail(target, file);
+}
+
 void DiskFileSystem::copy(const QString& from, const QString& to)
 {
     constexpr qint64 pieceSize = 1024 * 1024;

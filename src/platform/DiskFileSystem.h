@@ -14,6 +14,7 @@ public:
     QDateTime modified(const QString& path) const override;
     QByteArray read(const QString& path, qint64 limit) const override;
     void write(const QString& path, const QByteArray& bytes) override;
+    void overwrite(const QString& path, const QByteArray& bytes) override;
     void copy(const QString& from, const QString& to) override;
     void remove(const QString& path) override;
     void createFolder(const QString& path) override;

@@ -38,6 +38,10 @@ public:
     // A read-only file is refused with PermissionDenied. The folder must exist. Throws FileError.
     virtual void write(const QString& path, const QByteArray& bytes) = 0;
 
+    // Replaces the file's contents in place, without waiting for the disk: for a file whose loss matters to
+    // nobody. A crash may leave a part of it. Throws FileError.
+    virtual void overwrite(const QString& path, const QByteArray& bytes) = 0;
+
     // Copies a file whole, replacing `to`, under the same promise as `write`. Throws FileError.
     virtual void copy(const QString& from, const QString& to) = 0;
 

@@ -21,5 +21,5 @@ QString WithSlashes(const QString& path);
 // With the system's own separators: what stands on a command line and in a text box.
 QString NativePath(const QString& path);
 
-bool SameName(const QString& a, const QString& b); // without regard to case
+bool SameName(const QString& a, const QString& b);         // without regard to case
 bool EndsWith(const QString& name, const QString& ending); // without regard to case

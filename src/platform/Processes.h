@@ -11,7 +11,7 @@ QStringList SplitCommandLine(const QString& commandLine);
 struct Captured
 {
     bool started = false;
-    QString error; // when it was not started: the system's error number (its words if that is unknown)
+    QString error;     // when it was not started: the system's error number (its words if that is unknown)
     QByteArray output; // both streams, in the order written
 };
 

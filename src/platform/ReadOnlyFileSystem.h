@@ -17,6 +17,7 @@ public:
     QDateTime modified(const QString& path) const override { return m_disk.modified(path); }
     QByteArray read(const QString& path, qint64 limit) const override { return m_disk.read(path, limit); }
     void write(const QString&, const QByteArray&) override {}
+    void overwrite(const QString&, const QByteArray&) override {}
     void copy(const QString&, const QString&) override {}
     void remove(const QString&) override {}
     void createFolder(const QString&) override {}

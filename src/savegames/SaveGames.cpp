@@ -36,25 +36,26 @@ void ConnectSaveGames(Launcher& launcher)
     launcher.controls.SaveGameList.chosen = [&launcher] { saveGamePicked(launcher); };
 }
 
-void ListSaveGames(Launcher& launcher)
+bool ListSaveGames(Launcher& launcher)
 {
     launcher.controls.SaveGameList.clear();
-    if (launcher.files.folderExists(launcher.selection.SaveGameFolder))
-        ListSavegameHeaders(launcher, launcher.selection.SaveGameFolder);
+    return !launcher.files.folderExists(launcher.selection.SaveGameFolder) ||
+           ListSavegameHeaders(launcher, launcher.selection.SaveGameFolder);
 }
 
-void RefreshSaveGames(Launcher& launcher)
+bool RefreshSaveGames(Launcher& launcher)
 {
     ListBox& list = launcher.controls.SaveGameList;
     const bool wasChosen = list.selected() >= 0;
-    ListSaveGames(launcher);
+    const bool listed = ListSaveGames(launcher);
     if (!wasChosen)
-        return;
+        return listed;
     list.startAs(entryOfSlot(list, launcher.launch.SaveSlot));
     if (list.selected() < 0) { // it is gone: start from a map again
         launcher.launch.SaveSlot.clear();
         SetMapFocus(launcher);
     }
+    return listed;
 }
 
 void RestoreLastSavegame(Launcher& launcher)

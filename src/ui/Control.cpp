@@ -1,6 +1,18 @@
 #include "ui/Control.h"
 
 #include <algorithm>
+#include <limits>
+
+int TextBox::number() const
+{
+    const QString trimmed = text.trimmed();
+    qsizetype end = trimmed.startsWith(u'-') ? 1 : 0;
+    while (end < trimmed.size() && trimmed.at(end) >= u'0' && trimmed.at(end) <= u'9')
+        ++end;
+    using Limits = std::numeric_limits<qint16>;
+    return static_cast<int>(
+        std::clamp(trimmed.left(end).toDouble(), double{Limits::min()}, double{Limits::max()}));
+}
 
 void CheckBox::setValue(int value)
 {
@@ -30,7 +42,8 @@ void ListBox::add(const QString& entry)
 {
     qsizetype position = m_entries.size();
     if (m_order == Order::Sorted) {
-        const auto after = std::upper_bound(m_entries.cbegin(), m_entries.cend(), entry,
+        const auto after = std::upper_bound(
+            m_entries.cbegin(), m_entries.cend(), entry,
             [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
         position = after - m_entries.cbegin();
     }

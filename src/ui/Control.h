@@ -31,8 +31,8 @@ struct Button : Control
 
 struct TextBox : Control
 {
-    // The text as a whole number; 0 when it is none.
-    int number() const { return text.trimmed().toInt(); }
+    // The whole number that the text begins with, within 16 bits; 0 when it begins with none.
+    int number() const;
 };
 
 class CheckBox : public Control
@@ -58,7 +58,8 @@ private:
 class OptionButtons
 {
 public:
-    explicit OptionButtons(int count, int selected = 0) : m_buttons(static_cast<size_t>(count)), m_selected(selected)
+    explicit OptionButtons(int count, int selected = 0)
+        : m_buttons(static_cast<size_t>(count)), m_selected(selected)
     {
     }
 
@@ -95,8 +96,8 @@ public:
     const QStringList& entries() const { return m_entries; }
     bool isEmpty() const { return m_entries.isEmpty(); }
     int count() const { return static_cast<int>(m_entries.size()); }
-    QString entry(int index) const { return m_entries.value(index); } // empty outside the list
-    int selected() const { return m_selected; } // -1 when none is
+    QString entry(int index) const { return m_entries.value(index); }    // empty outside the list
+    int selected() const { return m_selected; }                          // -1 when none is
     QString selectedText() const { return m_entries.value(m_selected); } // empty when none is
 
     void add(const QString& entry);
@@ -123,7 +124,7 @@ public:
     void setCurrentText(const QString& value);
 
     std::function<void()> clicked; // the selection changed, by the user or by a rule
-    std::function<void()> chosen; // the user clicked an entry, after `clicked`
+    std::function<void()> chosen;  // the user clicked an entry, after `clicked`
 
 private:
     QStringList m_entries;

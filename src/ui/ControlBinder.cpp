@@ -9,6 +9,8 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include <memory>
+
 namespace {
 
 void writeShared(const Control& control, QWidget* widget)
@@ -45,8 +47,8 @@ QString NameOf(const QString& array, int index)
     return array + u'_' + QString::number(index);
 }
 
-void ControlBinder::bind(
-    const QString& objectName, Control& control, QWidget* widget, std::function<void(const QString&)> setCaption)
+void ControlBinder::bind(const QString& objectName, Control& control, QWidget* widget,
+                         std::function<void(const QString&)> setCaption)
 {
     name(widget, objectName, control.caption);
     m_writers.emplace_back([&control, widget, setCaption = std::move(setCaption)] {
@@ -90,10 +92,11 @@ void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox
             box->setChecked(control.ticked());
     });
     connect(box, &QCheckBox::clicked, this,
-        [this, &control](bool on) { run([&control, on] { control.setTicked(on); }); });
+            [this, &control](bool on) { run([&control, on] { control.setTicked(on); }); });
 }
 
-void ControlBinder::bind(const QString& objectName, OptionButtons& control, const QList<QAbstractButton*>& buttons)
+void ControlBinder::bind(const QString& objectName, OptionButtons& control,
+                         const QList<QAbstractButton*>& buttons)
 {
     for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
         QAbstractButton* button = buttons.at(i);
@@ -105,7 +108,7 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control, cons
                 button->setChecked(control.selected() == i);
         });
         connect(button, &QAbstractButton::clicked, this,
-            [this, &control, i] { run([&control, i] { control.click(i); }); });
+                [this, &control, i] { run([&control, i] { control.click(i); }); });
     }
 }
 
@@ -118,7 +121,7 @@ void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit*
             edit->setText(control.text);
     });
     connect(edit, &QLineEdit::textEdited, this,
-        [this, &control](const QString& text) { run([&control, text] { control.text = text; }); });
+            [this, &control](const QString& text) { run([&control, text] { control.text = text; }); });
 }
 
 void ControlBinder::bind(const QString& objectName, ListBox& control, QListWidget* list)
@@ -137,9 +140,19 @@ void ControlBinder::bind(const QString& objectName, ListBox& control, QListWidge
         if (QListWidgetItem* item = list->currentItem())
             list->scrollToItem(item);
     });
-    connect(list, &QListWidget::currentRowChanged, this, [this, &control](int row) {
-        if (row >= 0)
-            run([&control, row] { control.click(row); });
+    // A press on another row changes the row first; a press on the same row counts as a click too.
+    const auto handled = std::make_shared<int>(-1);
+    connect(list, &QListWidget::currentRowChanged, this, [this, &control, handled](int row) {
+        if (row < 0)
+            return;
+        *handled = row;
+        QMetaObject::invokeMethod(
+            this, [handled] { *handled = -1; }, Qt::QueuedConnection);
+        run([&control, row] { control.click(row); });
+    });
+    connect(list, &QListWidget::pressed, this, [this, &control, handled](const QModelIndex& index) {
+        if (index.isValid() && index.row() != *handled)
+            run([&control, row = index.row()] { control.click(row); });
     });
 }
 
@@ -159,7 +172,7 @@ void ControlBinder::bind(const QString& objectName, ListBox& control, QComboBox*
             list->setPlaceholderText(control.text);
     });
     connect(list, &QComboBox::activated, this,
-        [this, &control](int row) { run([&control, row] { control.click(row); }); });
+            [this, &control](int row) { run([&control, row] { control.click(row); }); });
 }
 
 void ControlBinder::run(const std::function<void()>& event)

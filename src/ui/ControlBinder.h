@@ -26,7 +26,7 @@ public:
 
     // A frame, a label, a picture: shown and greyed, and its caption goes to `setCaption` if there is one.
     void bind(const QString& name, Control& control, QWidget* widget,
-        std::function<void(const QString&)> setCaption = {});
+              std::function<void(const QString&)> setCaption = {});
     void bind(const QString& name, Control& control, QLabel* label);
     void bind(const QString& name, Button& control, QAbstractButton* button);
     void bind(const QString& name, CheckBox& control, QCheckBox* box);

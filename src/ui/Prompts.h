@@ -24,9 +24,9 @@ constexpr int ResultNo = 7;
 struct FileQuestion
 {
     QString title;
-    QString filter; // what the files are called
+    QString filter;  // what the files are called
     QString pattern; // "*.wad"
-    QString folder; // where to start, with '/'
+    QString folder;  // where to start, with '/'
 };
 
 // What the launcher asks the player. A window shows dialogs; a console program and the tests answer.

@@ -2,7 +2,6 @@
 
 #include "platform/Paths.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -71,9 +70,9 @@ int PromptsView::MsgboxPos(const QString& text, int style, const QString& title)
     box.setTextFormat(Qt::PlainText); // file names are no markup
     box.setText(QString(text).replace(u"\r\n"_s, u"\n"_s));
     box.setStandardButtons(buttonsOf(style));
-    const QList<QAbstractButton*> buttons = box.buttons();
-    if ((style & Msg::SecondButton) && buttons.size() > 1)
-        box.setDefaultButton(box.standardButton(buttons.at(1)));
+    const bool asksYesNo = (style & buttonMask) == Msg::YesNo || (style & buttonMask) == Msg::YesNoCancel;
+    if (style & Msg::SecondButton)
+        box.setDefaultButton(asksYesNo ? QMessageBox::No : QMessageBox::Cancel);
     if ((style & buttonMask) == Msg::YesNo)
         box.setEscapeButton(QMessageBox::No);
 
@@ -88,8 +87,8 @@ int PromptsView::MsgboxPos(const QString& text, int style, const QString& title)
 QString PromptsView::chooseFile(const FileQuestion& question)
 {
     QWidget* over = QApplication::activeModalWidget();
-    const QString filter = question.filter + u" ("_s + question.pattern + u' '
-        + question.pattern.toUpper() + u')'; // names compare without regard to case
+    const QString filter = question.filter + u" ("_s + question.pattern + u' ' + question.pattern.toUpper() +
+                           u')'; // names compare without regard to case
     return WithSlashes(
         QFileDialog::getOpenFileName(over ? over : m_mainWindow, question.title, question.folder, filter));
 }

@@ -7,7 +7,7 @@
 namespace {
 
 // The picture at the smallest size that covers `size` (pixels); null when it cannot be read.
-QPixmap covering(const QString& path, QSize size)
+QImage covering(const QString& path, QSize size)
 {
     constexpr int largestSide = 16384; // a picture that claims more is not shown
     QImageReader reader(path);
@@ -15,7 +15,7 @@ QPixmap covering(const QString& path, QSize size)
     if (own.isEmpty() || own.width() > largestSide || own.height() > largestSide)
         return {};
     reader.setScaledSize(own.scaled(size, Qt::KeepAspectRatioByExpanding));
-    return QPixmap::fromImageReader(&reader);
+    return reader.read();
 }
 
 } // namespace
@@ -26,32 +26,47 @@ TitleView::TitleView(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+QSize TitleView::pixels() const
+{
+    return QSize(std::max(width(), sizeHint().width()), height) * devicePixelRatioF();
+}
+
+void TitleView::read(const QString& path)
+{
+    m_path = path;
+    m_reading = std::async(std::launch::async, covering, path, pixels());
+    update();
+}
+
 void TitleView::showPicture(const QString& path)
 {
-    if (path == m_path || path.isEmpty())
-        return;
-    if (!QImageReader(path).canRead())
-        return;
-    m_path = path;
-    m_scaled = {};
-    update();
+    if (path != m_path && !path.isEmpty())
+        read(path);
 }
 
 void TitleView::paintEvent(QPaintEvent*)
 {
-    const QSize pixels = size() * devicePixelRatioF();
-    if (!m_path.isEmpty() && (m_scaled.width() < pixels.width() || m_scaled.height() < pixels.height()))
-        m_scaled = covering(m_path, pixels);
+    if (m_reading.valid()) {
+        const QImage picture = m_reading.get();
+        if (!picture.isNull()) {
+            m_picture = QPixmap::fromImage(picture);
+            m_shownPath = m_path;
+        }
+    }
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(16, 8, 8));
-    if (m_scaled.isNull())
+    if (m_picture.isNull()) {
+        painter.fillRect(rect(), QColor(16, 8, 8));
         return;
+    }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QSize shown = m_scaled.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
-    const double scale = static_cast<double>(m_scaled.width()) / shown.width();
-    const QSizeF crop = QSizeF(pixels) * scale;
-    painter.drawPixmap(QRectF(rect()), m_scaled,
-        QRectF(QPointF((m_scaled.width() - crop.width()) / 2, (m_scaled.height() - crop.height()) / 2), crop));
+    const QSize needed = size() * devicePixelRatioF();
+    const QSize shown = m_picture.size().scaled(needed, Qt::KeepAspectRatioByExpanding);
+    const double scale = static_cast<double>(m_picture.width()) / shown.width();
+    const QSizeF crop = QSizeF(needed) * scale;
+    const QPointF corner((m_picture.width() - crop.width()) / 2, (m_picture.height() - crop.height()) / 2);
+    painter.drawPixmap(QRectF(rect()), m_picture, QRectF(corner, crop));
+    if (shown.width() > m_picture.width())
+        read(m_shownPath); // the window has grown: read the picture at its new size
 }
 
 void TitleView::mouseReleaseEvent(QMouseEvent* event)

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
+
+#include <future>
 
 // A picture that fills its width: it keeps its proportions and is cropped, never stretched.
 class TitleView : public QWidget
@@ -11,7 +14,8 @@ class TitleView : public QWidget
 public:
     explicit TitleView(QWidget* parent = nullptr);
 
-    // Shows the picture at `path`; one that cannot be read leaves the picture that is shown.
+    // Shows the picture at `path`; one that cannot be read leaves the picture that is shown. The picture
+    // is read beside whatever the caller does next.
     void showPicture(const QString& path);
 
     QSize sizeHint() const override { return {940, height}; }
@@ -26,6 +30,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QString m_path;
-    QPixmap m_scaled; // the picture as large as it was last needed
+    QSize pixels() const; // what the view shows, in the screen's pixels
+    void read(const QString& path);
+
+    QString m_path; // of the picture asked for last
+    QString m_shownPath;
+    QPixmap m_picture; // as large as the view was when it was read
+    std::future<QImage> m_reading;
 };

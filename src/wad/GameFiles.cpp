@@ -8,16 +8,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const char16_t* neverGameFiles[]
-    = {u"Doom2.wad", u"Doom.wad", u"Plutonia.wad", u"Doom1.wad", u"Tnt.wad", u"kelspack.wad"};
+constexpr const char16_t* neverGameFiles[] = {u"Doom2.wad", u"Doom.wad", u"Plutonia.wad",
+                                              u"Doom1.wad", u"Tnt.wad",  u"kelspack.wad"};
 constexpr const char16_t* lumpFiles[] = {u"dd_defns", u"scp_defn", u"scp_zoff", u"sndinfo"};
-constexpr const char16_t* sideFileEndings[]
-    = {u".txt", u".htm", u"html", u".doc", u".deh", u".bex", u".ded", u".lmp"};
+constexpr const char16_t* sideFileEndings[] = {u".txt", u".htm", u"html", u".doc",
+                                               u".deh", u".bex", u".ded", u".lmp"};
 
 const QString builtNodes = u"VYKgwa"_s;
 const QString engineBackup = u"VYKbak"_s;
 
-template <class Table> bool names(const Table& table, const QString& name)
+template <class Table>
+bool names(const Table& table, const QString& name)
 {
     return std::ranges::any_of(
         table, [&](const char16_t* entry) { return SameName(name, QString::fromUtf16(entry)); });
@@ -45,8 +46,9 @@ bool IsGameFile(FileSystem& files, const QString& folder, const QString& name, b
         return false;
     if (names(lumpFiles, name) || EndsWith(name, u".wad"_s))
         return true;
-    if (std::ranges::any_of(sideFileEndings,
-            [&](const char16_t* ending) { return EndsWith(name, QString::fromUtf16(ending)); }))
+    if (std::ranges::any_of(sideFileEndings, [&](const char16_t* ending) {
+            return EndsWith(name, QString::fromUtf16(ending));
+        }))
         return !wadFilesOnly;
     tidy(files, folder + name);
     return false;
@@ -62,8 +64,8 @@ QStringList GameFilesOf(FileSystem& files, const QString& folder, bool wadFilesO
     return names;
 }
 
-GatheredFiles GatherGameFiles(
-    const FileSystem& files, const QString& mainWad, const std::function<int(const QString&)>& countMaps)
+GatheredFiles GatherGameFiles(const FileSystem& files, const QString& mainWad,
+                              const std::function<int(const QString&)>& countMaps)
 {
     const QString folder = FolderOf(mainWad);
     const QString kind = FileNameOf(folder);

@@ -17,11 +17,11 @@ QStringList GameFilesOf(FileSystem& files, const QString& folder, bool wadFilesO
 struct GatheredFiles
 {
     bool inGameFolder = false; // the main WAD lies in a folder named Pwads, Gwads or Zips
-    bool isArchive = false; // ... named Zips
-    QString userDir; // GameUserDir
+    bool isArchive = false;    // ... named Zips
+    QString userDir;           // GameUserDir
     QStringList StoredFiles; // full paths: the main WAD, WADs with maps, other WADs, patches and definitions
 };
 
 // The files that go on the command line with a main WAD; `countMaps` is CountWadMaps of a path.
-GatheredFiles GatherGameFiles(
-    const FileSystem& files, const QString& mainWad, const std::function<int(const QString&)>& countMaps);
+GatheredFiles GatherGameFiles(const FileSystem& files, const QString& mainWad,
+                              const std::function<int(const QString&)>& countMaps);

@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -33,21 +34,21 @@ int sectionStartedBy(const QString& field)
 void keepReport(Launcher& launcher, const QString& report)
 {
     try {
-        launcher.files.write(launcher.paths.LaunchDataPath + u"pwad.vyk"_s, ToAnsi(report + u"\r\n"_s));
+        launcher.files.overwrite(launcher.paths.LaunchDataPath + u"pwad.vyk"_s, ToAnsi(report + u"\r\n"_s));
     } catch (const FileError&) {
     }
 }
 
-// What the tool prints; a tool that cannot be started gives a message and an empty report.
-QString runTool(Launcher& launcher, const QString& operation, const QString& path)
+// What the tool prints; one that cannot be started gives a message and nothing.
+std::optional<QString> runTool(Launcher& launcher, const QString& operation, const QString& path)
 {
     if (path.contains(u'"'))
-        return {}; // no command line can carry the name
+        return QString(); // no command line can carry the name
     const QString commandLine = operation + u'"' + NativePath(path) + u'"';
     const Captured captured = launcher.processes.capture(commandLine, launcher.paths.RootPath + u"/Bin"_s);
     if (!captured.started) {
         launcher.prompts.MsgboxPos(u"CreateProcess failed. Error: "_s + captured.error, Msg::Ok, QString());
-        return {};
+        return std::nullopt;
     }
     return FromAnsi(captured.output);
 }
@@ -56,7 +57,7 @@ QString runTool(Launcher& launcher, const QString& operation, const QString& pat
 
 int CountWadMaps(Launcher& launcher, const QString& path)
 {
-    const QString report = runTool(launcher, checkWad, path);
+    const QString report = runTool(launcher, checkWad, path).value_or(QString());
     keepReport(launcher, report);
     const QString count = report.mid(countPosition, 2);
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
@@ -68,7 +69,7 @@ int CountWadMaps(Launcher& launcher, const QString& path)
 
 void ListWadMaps(Launcher& launcher, const QString& path)
 {
-    const QString report = runTool(launcher, checkWad, path);
+    const QString report = runTool(launcher, checkWad, path).value_or(QString());
     if (report.isEmpty())
         return;
     keepReport(launcher, report);
@@ -79,17 +80,18 @@ void ListWadMaps(Launcher& launcher, const QString& path)
         maps.add(fields.at(i).left(mapNameLength).trimmed());
 }
 
-void ListSavegameHeaders(Launcher& launcher, const QString& folder)
+bool ListSavegameHeaders(Launcher& launcher, const QString& folder)
 {
     ListBox& list = launcher.controls.SaveGameList;
     list.clear();
-    const QString report = runTool(launcher, getSaveHeaders, folder);
-    if (report.isEmpty())
-        return;
-    keepReport(launcher, report);
-    for (const QString& field : FieldsOf(report))
+    const std::optional<QString> report = runTool(launcher, getSaveHeaders, folder);
+    if (!report || report->isEmpty())
+        return report.has_value();
+    keepReport(launcher, *report);
+    for (const QString& field : FieldsOf(*report))
         if (field.size() > 1)
             list.add(field.left(1) + u" - "_s + field.mid(1));
+    return true;
 }
 
 int CheckPwad(const FileSystem& files, const InstallationPaths& paths, const QString& path)

@@ -13,7 +13,8 @@ int CountWadMaps(Launcher& launcher, const QString& path);
 void ListWadMaps(Launcher& launcher, const QString& path);
 
 // Fills SaveGameList with "<slot> - <description>" for each savegame of a folder that has a description.
-void ListSavegameHeaders(Launcher& launcher, const QString& folder);
+// False when the tool could not be started.
+bool ListSavegameHeaders(Launcher& launcher, const QString& folder);
 
 // The section (1 to 7) of checkpwad.vyk that names the file of `path` first; 0 when none does.
 int CheckPwad(const FileSystem& files, const InstallationPaths& paths, const QString& path);

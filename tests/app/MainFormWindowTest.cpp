@@ -19,7 +19,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Stands in for the engine: writes its arguments, one in a line, and is done.
-const QByteArray engine = "#!/bin/sh\nprintf '%s\\n' \"$@\" > arguments.new\nmv arguments.new arguments.txt\n";
+const QByteArray engine =
+    "#!/bin/sh\nprintf '%s\\n' \"$@\" > arguments.new\nmv arguments.new arguments.txt\n";
 
 QStringList mapNames(int count)
 {
@@ -50,11 +51,18 @@ private Q_SLOTS:
     void enterLaunchesUnlessLaunchIsOff();
     void typedParametersReachTheEngine();
     void closingSavesWhatWasChosen();
+    void tabbingByChoosesNothing();
+    void aClickOnTheChosenMapIsAPick();
+    void theLauncherFontReachesEveryText();
     void captionsAreShownAsTheyAre();
     void theTitlePictureCyclesAndSurvivesABadFile();
 
 private:
-    template <class Widget> Widget* find(const QString& name) const { return m_window->findChild<Widget*>(name); }
+    template <class Widget>
+    Widget* find(const QString& name) const
+    {
+        return m_window->findChild<Widget*>(name);
+    }
     void clickRow(const QString& list, int row);
     QStringList engineArguments();
 
@@ -80,15 +88,17 @@ void MainFormWindowTest::init()
     QVERIFY(QFile::copy(QStringLiteral(VYKGFILES_PROGRAM), m_installation->path(u"Bin/VYKgFiles"_s)));
     m_installation->add(u"Data/Doom2.wad"_s, TemporaryInstallation::wad("IWAD", mapNames(32)));
     m_installation->add(u"Data/DOOM.WAD"_s, TemporaryInstallation::wad("IWAD", {u"E1M1"_s, u"E2M3"_s}));
-    m_installation->add(u"UserSG/doom2/savegame/KeldraxSav3.vyksg"_s, QByteArray("Before the gate").leftJustified(64, 0));
+    m_installation->add(u"UserSG/doom2/savegame/KeldraxSav3.vyksg"_s,
+                        QByteArray("Before the gate").leftJustified(64, 0));
 
     m_files = std::make_unique<DiskFileSystem>();
     m_processes = std::make_unique<SystemProcesses>(*m_files);
     m_prompts = std::make_unique<QueuedPrompts>();
     m_window = std::make_unique<MainForm>();
-    m_launcher = std::make_unique<Launcher>(*m_files, *m_processes, *m_prompts, *m_window, m_installation->root());
+    m_launcher =
+        std::make_unique<Launcher>(*m_files, *m_processes, *m_prompts, *m_window, m_installation->root());
     m_launcher->startUp.WindowCaption = u"VYKLauncher"_s;
-    m_window->build(*m_launcher);
+    m_window->attach(*m_launcher);
     LoadMainWindow(*m_launcher);
     m_window->show();
     m_window->activateWindow();
@@ -130,12 +140,14 @@ void MainFormWindowTest::everyWidgetIsNamedOnceAndAccessible()
     }
     // Everything that takes a click or a key has its control.
     for (const QWidget* widget : m_window->findChildren<QWidget*>()) {
-        const bool takesInput = qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget)
-            || qobject_cast<const QListWidget*>(widget) || qobject_cast<const QComboBox*>(widget);
+        const bool takesInput =
+            qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+            qobject_cast<const QListWidget*>(widget) || qobject_cast<const QComboBox*>(widget);
         QVERIFY2(!takesInput || !widget->objectName().isEmpty(), widget->metaObject()->className());
     }
-    for (const QString& name : {u"chkMain_0"_s, u"chkMain_2"_s, u"OptionUdir_1"_s, u"OptionTabs_0"_s, u"SkillsLevel_0"_s,
-             u"edCustom"_s, u"LaunchButton"_s, u"Home_0"_s, u"Home_3"_s, u"TitlePic"_s, u"Auto_0"_s})
+    for (const QString& name :
+         {u"chkMain_0"_s, u"chkMain_2"_s, u"OptionUdir_1"_s, u"OptionTabs_0"_s, u"SkillsLevel_0"_s,
+          u"edCustom"_s, u"LaunchButton"_s, u"Home_0"_s, u"Home_3"_s, u"TitlePic"_s, u"Auto_0"_s})
         QVERIFY2(names.contains(name), qPrintable(name));
 }
 
@@ -242,12 +254,51 @@ void MainFormWindowTest::closingSavesWhatWasChosen()
     find<QAbstractButton>(u"chkMain_2"_s)->click();
     m_window->move(40, 50);
     m_window->close();
-    const QStringList lines = QString::fromLatin1(m_installation->read(u"VYKLaunch/config.vyk"_s)).split(u"\r\n"_s);
+    const QStringList lines =
+        QString::fromLatin1(m_installation->read(u"VYKLaunch/config.vyk"_s)).split(u"\r\n"_s);
     QCOMPARE(lines.size(), 84);
     QCOMPARE(lines.at(46), u" 1 "_s);
     QCOMPARE(lines.at(56), u"DOOM/ULTIMATE DOOM"_s);
     QCOMPARE(lines.at(81), u" 50 "_s);
     QCOMPARE(lines.at(82), u" 40 "_s);
+}
+
+void MainFormWindowTest::tabbingByChoosesNothing()
+{
+    m_installation->add(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s, "MAP05\r\n");
+    for (const QString& name : {u"SaveGameList"_s, u"MapList"_s}) {
+        find<QWidget>(name)->setFocus(Qt::TabFocusReason);
+        QCOMPARE(find<QListWidget>(name)->currentRow(), -1);
+    }
+    QCOMPARE(m_launcher->launch.StartChoice, StartChoice::NewGame);
+    QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP05\r\n"));
+
+    QTest::keyClick(find<QWidget>(u"MapList"_s), Qt::Key_Down); // but the keys choose
+    QCOMPARE(m_launcher->launch.StartChoice, StartChoice::ChosenMap);
+}
+
+void MainFormWindowTest::aClickOnTheChosenMapIsAPick()
+{
+    auto* skill = find<QComboBox>(u"SkillsLevel_1"_s);
+    skill->setFocus();
+    QTest::keyClick(skill, Qt::Key_Down);
+    QCOMPARE(find<QListWidget>(u"MapList"_s)->currentRow(), 0);
+    QVERIFY(!m_installation->exists(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s));
+    clickRow(u"MapList"_s, 0);
+    QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP01\r\n"));
+}
+
+void MainFormWindowTest::theLauncherFontReachesEveryText()
+{
+    const QFont before = QApplication::font();
+    m_window->checkFont(
+        {.CustomFontOn = true, .FontName = u"DejaVu Serif"_s, .FontSize = 14, .FontBold = false});
+    for (const QString& name :
+         {u"chkMain_0"_s, u"Auto_0"_s, u"LaunchButton"_s, u"PwadList"_s, u"SkillsLevel_1"_s}) {
+        QCOMPARE(find<QWidget>(name)->font().family(), u"DejaVu Serif"_s);
+        QVERIFY(find<QWidget>(name)->font().pointSizeF() >= 14);
+    }
+    QApplication::setFont(before);
 }
 
 void MainFormWindowTest::captionsAreShownAsTheyAre()

@@ -56,7 +56,9 @@ private Q_SLOTS:
             bool wine;
             QPoint placed;
         } rows[] = {{12, 34, false, {34, 12}},
-                    {1080, 1920, false, {1920, 1080}},
+                    {1079, 1919, false, {1919, 1079}}, // a part of it is on the screen
+                    {-20, -900, false, {-900, -20}},
+                    {12, -940, false, centre},
                     {12, 1921, false, centre},
                     {1081, 34, false, centre},
                     {12, std::numeric_limits<int>::min(), false, centre},

@@ -131,8 +131,8 @@ private Q_SLOTS:
         QCOMPARE(f.start(), StartResult::Ended);
         QCOMPARE(f.prompts.titles, {u"Installation error"_s});
         QCOMPARE(f.prompts.texts,
-            {u"   Unable to run the VYKlauncher due to missing or unregistered       \r\n"
-             "   dependencies, re-install the program using the Keldrax setup."_s});
+                 {u"   Unable to run the VYKlauncher due to missing or unregistered       \r\n"
+                  "   dependencies, re-install the program using the Keldrax setup."_s});
         QCOMPARE(f.prompts.styles, {16});
         QVERIFY(!f.window.shown);
     }

@@ -42,6 +42,11 @@ public:
         count({path});
         m_disk.write(path, bytes);
     }
+    void overwrite(const QString& path, const QByteArray& bytes) override
+    {
+        count({path});
+        m_disk.overwrite(path, bytes);
+    }
     void copy(const QString& from, const QString& to) override
     {
         count({to, from});

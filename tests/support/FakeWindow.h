@@ -2,6 +2,7 @@
 
 #include "app/MainWindowHost.h"
 
+#include <QRect>
 #include <QStringList>
 #include <functional>
 
@@ -20,6 +21,8 @@ public:
     void minimise() override { record(u"minimise"), normal = false; }
     void bringToFront() override { record(u"bringToFront"), shown = normal = true; }
     void refresh() override {}
+    void checkFont(const FontSetting& setting) override { font = setting; }
+    bool isReachableAt(QPoint to) const override { return QRect({}, screen).intersects({to, ownSize}); }
     void showIwadForm() override
     {
         record(u"showIwadForm");
@@ -33,6 +36,7 @@ public:
     QPoint topLeft;
     bool normal = true;
     bool shown = false;
+    FontSetting font;
     QStringList calls;
     std::function<void()> onIwadForm; // what the player does in the dialog
 

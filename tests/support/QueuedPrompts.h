@@ -12,7 +12,8 @@ public:
     ~QueuedPrompts() override
     {
         if (!m_answers.isEmpty() || !m_files.isEmpty())
-            qFatal("%lld expected questions were not asked", static_cast<long long>(m_answers.size() + m_files.size()));
+            qFatal("%lld expected questions were not asked",
+                   static_cast<long long>(m_answers.size() + m_files.size()));
     }
 
     // The next message box is answered with `result`.

@@ -37,16 +37,20 @@ void VYKplayTest::init()
 {
     m_installation = std::make_unique<TemporaryInstallation>();
     m_installation->makeComplete();
-    for (const auto& [program, name] : {std::pair{VYKPLAY_PROGRAM, "VYKplay"}, {VYKGFILES_PROGRAM, "VYKgFiles"}}) {
+    for (const auto& [program, name] :
+         {std::pair{VYKPLAY_PROGRAM, "VYKplay"}, {VYKGFILES_PROGRAM, "VYKgFiles"}}) {
         const QString target = m_installation->path(u"Bin/"_s + QString::fromLatin1(name));
         QFile::remove(target);
         QVERIFY(QFile::copy(QString::fromLocal8Bit(program), target));
     }
-    m_installation->addProgram(u"Bin/Keldrax"_s, "#!/bin/sh\necho \"$*\" > new.txt\nmv new.txt arguments.txt\n");
+    m_installation->addProgram(u"Bin/Keldrax"_s,
+                               "#!/bin/sh\necho \"$*\" > new.txt\nmv new.txt arguments.txt\n");
     m_installation->add(u"Data/Doom2.wad"_s, TemporaryInstallation::wad("IWAD", {u"MAP01"_s, u"MAP07"_s}));
-    m_installation->add(u"VYKGames/Läufer 100%/Pwads/run.wad"_s, TemporaryInstallation::wad("PWAD", {u"MAP03"_s}));
+    m_installation->add(u"VYKGames/Läufer 100%/Pwads/run.wad"_s,
+                        TemporaryInstallation::wad("PWAD", {u"MAP03"_s}));
     m_installation->add(u"VYKArchives/Some.ZIP"_s);
-    m_installation->add(u"UserSG/doom2/savegame/KeldraxSav5.vyksg"_s, QByteArray("Old friend").leftJustified(40, 0));
+    m_installation->add(u"UserSG/doom2/savegame/KeldraxSav5.vyksg"_s,
+                        QByteArray("Old friend").leftJustified(40, 0));
 }
 
 VYKplayTest::Result VYKplayTest::run(const QStringList& arguments) const
@@ -59,15 +63,29 @@ VYKplayTest::Result VYKplayTest::run(const QStringList& arguments) const
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, {}, {}};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-        QString::fromUtf8(process.readAllStandardError())};
+            QString::fromUtf8(process.readAllStandardError())};
 }
 
 void VYKplayTest::wrongUsageIsTwo_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    const char* const lines[] = {"", "dance", "list nowhere", "list doom zips", "maps", "play", "play a b", "play a --map 1 --new",
-        "play a --save 1 --map 2", "play a --skill 6", "play a --skill 0", "play a --skill x", "play a --new --skill 3",
-        "maps a --dry-run", "play a --view attic", "list --nonsense", "play a --map"};
+    const char* const lines[] = {"",
+                                 "dance",
+                                 "list nowhere",
+                                 "list doom zips",
+                                 "maps",
+                                 "play",
+                                 "play a b",
+                                 "play a --map 1 --new",
+                                 "play a --save 1 --map 2",
+                                 "play a --skill 6",
+                                 "play a --skill 0",
+                                 "play a --skill x",
+                                 "play a --new --skill 3",
+                                 "maps a --dry-run",
+                                 "play a --view attic",
+                                 "list --nonsense",
+                                 "play a --map"};
     for (const char* line : lines)
         QTest::newRow(line) << QString::fromLatin1(line).split(u' ', Qt::SkipEmptyParts);
 }
@@ -97,8 +115,8 @@ void VYKplayTest::listsAndMaps()
 void VYKplayTest::aDryRunPrintsTheLineAndChangesNothing()
 {
     const QStringList before = m_installation->tree();
-    const Result result
-        = run({u"play"_s, u"doom II"_s, u"--map"_s, u"map07"_s, u"--skill"_s, u"4"_s, u"--dry-run"_s});
+    const Result result =
+        run({u"play"_s, u"doom II"_s, u"--map"_s, u"map07"_s, u"--skill"_s, u"4"_s, u"--dry-run"_s});
     QCOMPARE(result.status, 0);
     QVERIFY2(result.out.startsWith(u"Bin\\Keldrax -Doom2 "_s), qPrintable(result.out));
     QVERIFY(result.out.endsWith(u"-sk 4 -wp 07 \n"_s));
@@ -109,7 +127,8 @@ void VYKplayTest::aDryRunPrintsTheLineAndChangesNothing()
     // Without a choice the settings' own: a new game.
     QVERIFY(!run({u"play"_s, u"doom ii"_s, u"--dry-run"_s}).out.contains(u"-sk"_s));
     QVERIFY(!run({u"play"_s, u"doom ii"_s, u"--new"_s, u"--dry-run"_s}).out.contains(u"-wp"_s));
-    QVERIFY(run({u"play"_s, u"doom ii"_s, u"--save"_s, u"5"_s, u"--dry-run"_s}).out.endsWith(u"-loadgame 5 \n"_s));
+    QVERIFY(run({u"play"_s, u"doom ii"_s, u"--save"_s, u"5"_s, u"--dry-run"_s})
+                .out.endsWith(u"-loadgame 5 \n"_s));
 }
 
 void VYKplayTest::playStartsTheEngineAndRemembersTheMap()
@@ -118,7 +137,8 @@ void VYKplayTest::playStartsTheEngineAndRemembersTheMap()
     const Result result = run({u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP07"_s});
     QCOMPARE(result.status, 0);
     QVERIFY(QTest::qWaitFor([this] { return m_installation->exists(u"arguments.txt"_s); }, 60000));
-    QCOMPARE(QString::fromLatin1(m_installation->read(u"VYKLaunch/launch.log"_s)).replace(u"\r\n"_s, u"\n"_s), dry);
+    QCOMPARE(QString::fromLatin1(m_installation->read(u"VYKLaunch/launch.log"_s)).replace(u"\r\n"_s, u"\n"_s),
+             dry);
     QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP07\r\n"));
     QVERIFY(!m_installation->exists(u"VYKLaunch/config.vyk"_s));
 }
@@ -128,10 +148,14 @@ void VYKplayTest::refusalsAreOneWithAMessage_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("message");
     QTest::newRow("no such game") << QStringList{u"play"_s, u"Doom III"_s} << u"Doom III"_s;
-    QTest::newRow("not in that view") << QStringList{u"maps"_s, u"doom ii"_s, u"--view"_s, u"zips"_s} << u"doom ii"_s;
-    QTest::newRow("no such map") << QStringList{u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP33"_s} << u"MAP33"_s;
-    QTest::newRow("no such savegame") << QStringList{u"play"_s, u"doom ii"_s, u"--save"_s, u"4"_s} << u"\"4\""_s;
-    QTest::newRow("no installation") << QStringList{u"list"_s, u"--root"_s, u"/nowhere"_s} << u"has not been detected"_s;
+    QTest::newRow("not in that view")
+        << QStringList{u"maps"_s, u"doom ii"_s, u"--view"_s, u"zips"_s} << u"doom ii"_s;
+    QTest::newRow("no such map") << QStringList{u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP33"_s}
+                                 << u"MAP33"_s;
+    QTest::newRow("no such savegame")
+        << QStringList{u"play"_s, u"doom ii"_s, u"--save"_s, u"4"_s} << u"\"4\""_s;
+    QTest::newRow("no installation") << QStringList{u"list"_s, u"--root"_s, u"/nowhere"_s}
+                                     << u"has not been detected"_s;
 }
 
 void VYKplayTest::refusalsAreOneWithAMessage()

@@ -53,8 +53,8 @@ Arguments ParseArguments(const QStringList& given)
             return wrong(u"There is no view \"%1\"."_s.arg(parser.value(view)));
     }
 
-    const bool playOptions
-        = parser.isSet(map) || parser.isSet(save) || parser.isSet(newGame) || parser.isSet(skill) || parser.isSet(dryRun);
+    const bool playOptions = parser.isSet(map) || parser.isSet(save) || parser.isSet(newGame) ||
+                             parser.isSet(skill) || parser.isSet(dryRun);
     if (command != u"play" && playOptions)
         return wrong(u"--map, --save, --new, --skill and --dry-run belong to play."_s);
 

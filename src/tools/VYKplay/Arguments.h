@@ -10,9 +10,9 @@ struct Arguments
     enum class Command { List, Maps, Play, Help };
 
     Command command = Command::Help;
-    QString game; // of Maps and Play
+    QString game;            // of Maps and Play
     std::optional<int> view; // 0 installed games, 1 Doom games, 2 zip library
-    QString root; // the installation; empty: the one the program lies in
+    QString root;            // the installation; empty: the one the program lies in
 
     // Of Play.
     QString map, slot;

@@ -34,6 +34,8 @@ public:
     void hide() override {}
     void minimise() override {}
     void bringToFront() override {}
+    void checkFont(const FontSetting&) override {}
+    bool isReachableAt(QPoint) const override { return false; }
     void refresh() override {}
     void showIwadForm() override {}
     void endProgram() override {}

@@ -70,7 +70,7 @@ bool selectGame(Launcher& launcher, const Arguments& arguments)
         if (index < 0)
             continue;
         QString& remembered = view == installedGames ? settings.SelectedGame
-            : view == doomGames                      ? settings.SelectedDoomGame
+                              : view == doomGames    ? settings.SelectedDoomGame
                                                      : settings.SelectedArchive;
         remembered = games.entry(index);
         OptionUdirClick(launcher, view);
@@ -117,7 +117,8 @@ bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& er
                 return true;
             }
         }
-        err << "There is no savegame in slot \"" << arguments.slot << "\" of " << arguments.game << '.' << Qt::endl;
+        err << "There is no savegame in slot \"" << arguments.slot << "\" of " << arguments.game << '.'
+            << Qt::endl;
         return false;
     }
     return true;

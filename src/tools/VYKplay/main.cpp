@@ -9,8 +9,8 @@ int main(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     const Arguments arguments = ParseArguments(QCoreApplication::arguments().mid(1));
     const QString root = arguments.root.isEmpty()
-        ? InstallationPaths::rootOf(QCoreApplication::applicationFilePath())
-        : QDir(arguments.root).absolutePath();
+                             ? InstallationPaths::rootOf(QCoreApplication::applicationFilePath())
+                             : QDir(arguments.root).absolutePath();
     QTextStream out(stdout);
     QTextStream err(stderr);
     return RunVYKplay(arguments, root, out, err);
