@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QFontMetrics>
+#include <QIcon>
 #include <QImageReader>
 
 #include <future>
@@ -33,6 +34,11 @@ int main(int argc, char** argv)
     const std::jthread families([] { QFontMetrics(QFont()).horizontalAdvance(u'x'); });
     std::future<bool> jpeg = std::async(std::launch::async, canReadJpeg);
     const QString root = InstallationPaths::rootOf(QApplication::applicationFilePath());
+
+    QIcon icon;
+    for (const char* size : {"32", "64"})
+        icon.addFile(QStringLiteral(":/icons/VYKlauncher-%1.png").arg(QLatin1StringView(size)));
+    QApplication::setWindowIcon(icon);
 
     DiskFileSystem files;
     SystemProcesses processes(files);
