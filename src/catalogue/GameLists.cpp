@@ -144,18 +144,23 @@ void OptionUdirClick(Launcher& launcher, int view)
     controls.ImageCM.visible = false;
     controls.AuxButton[zipLibraryButton].visible = view == zipLibrary;
     controls.AuxButton[shortcutButton].enabled = true;
-    if (view == installedGames)
-        FillInstalledGamesList(launcher);
-    else if (view == doomGames)
-        FillDoomGamesList(launcher);
-    else
-        FillArchiveList(launcher, launcher.paths.ArchivesPath);
+    FillGamesList(launcher, view);
     controls.Auto[0].caption = heading(launcher, view);
 
     controls.PwadList.select(std::max(controls.PwadList.find(rememberedGame(launcher, view)), 0));
     controls.LaunchButton.enabled = CanLaunchSelection(launcher);
     if (controls.PwadShowlist.isEmpty())
         controls.AuxButton[shortcutButton].enabled = false;
+}
+
+void FillGamesList(Launcher& launcher, int view)
+{
+    if (view == installedGames)
+        FillInstalledGamesList(launcher);
+    else if (view == doomGames)
+        FillDoomGamesList(launcher);
+    else
+        FillArchiveList(launcher, launcher.paths.ArchivesPath);
 }
 
 void FillInstalledGamesList(Launcher& launcher)

@@ -10,6 +10,7 @@ void ConnectGameLists(Launcher& launcher);
 void OptionUdirClick(Launcher& launcher, int view);
 
 // PwadList's entries for a view, without regard to what is selected.
+void FillGamesList(Launcher& launcher, int view);
 void FillInstalledGamesList(Launcher& launcher);
 void FillDoomGamesList(Launcher& launcher);
 void FillArchiveList(Launcher& launcher, const QString& folder);

@@ -44,16 +44,6 @@ void load(Launcher& launcher, QTextStream& err)
     CheckPacksAtLoad(launcher);
 }
 
-void fill(Launcher& launcher, int view)
-{
-    if (view == installedGames)
-        FillInstalledGamesList(launcher);
-    else if (view == doomGames)
-        FillDoomGamesList(launcher);
-    else
-        FillArchiveList(launcher, launcher.paths.ArchivesPath);
-}
-
 QList<int> viewsOf(const Arguments& arguments)
 {
     return arguments.view ? QList<int>{*arguments.view} : QList<int>{doomGames, installedGames, zipLibrary};
@@ -64,7 +54,7 @@ bool selectGame(Launcher& launcher, const Arguments& arguments)
 {
     Settings& settings = launcher.settings;
     for (const int view : viewsOf(arguments)) {
-        fill(launcher, view);
+        FillGamesList(launcher, view);
         const ListBox& games = launcher.controls.PwadList;
         const int index = games.find(arguments.game);
         if (index < 0)
@@ -82,7 +72,7 @@ bool selectGame(Launcher& launcher, const Arguments& arguments)
 int listGames(Launcher& launcher, const Arguments& arguments, QTextStream& out)
 {
     for (const int view : viewsOf(arguments)) {
-        fill(launcher, view);
+        FillGamesList(launcher, view);
         for (const QString& game : launcher.controls.PwadList.entries())
             out << game << Qt::endl;
     }
