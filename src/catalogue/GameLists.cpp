@@ -1,5 +1,6 @@
 #include "catalogue/GameLists.h"
 
+#include "catalogue/GameRecords.h"
 #include "options/Skills.h"
 #include "platform/Paths.h"
 #include "savegames/SaveGames.h"
@@ -73,7 +74,10 @@ void installedGameClicked(Launcher& launcher, const QString& name)
         !selection.GwadSelected && launcher.controls.PwadShowlist.count() < manyFiles;
     launcher.controls.MapList.clear();
     selection.SaveGameFolder.clear();
-    ChooseMainWad(launcher, selection.SelectedGameFolder);
+    if (selection.GwadSelected)
+        RestoreGwadFile(launcher, name);
+    else
+        ChooseMainWad(launcher, selection.SelectedGameFolder);
 }
 
 void gameClicked(Launcher& launcher)
@@ -105,6 +109,13 @@ void gameFileClicked(Launcher& launcher)
     ListSaveGames(launcher);
     if (launcher.launch.StartChoice != StartChoice::NewGame)
         SelectStartMap(launcher);
+    launcher.controls.LaunchButton.enabled = CanLaunchSelection(launcher);
+}
+
+void gameFilePicked(Launcher& launcher)
+{
+    if (launcher.selection.GwadSelected && EndsWith(launcher.controls.PwadShowlist.selectedText(), u".wad"_s))
+        SaveGwadSelection(launcher, launcher.selection.SelectedGwadGame);
 }
 
 QString rememberedGame(const Launcher& launcher, int view)
@@ -122,6 +133,7 @@ void ConnectGameLists(Launcher& launcher)
     controls.OptionUdir.clicked = [&launcher](int view) { OptionUdirClick(launcher, view); };
     controls.PwadList.clicked = [&launcher] { gameClicked(launcher); };
     controls.PwadShowlist.clicked = [&launcher] { gameFileClicked(launcher); };
+    controls.PwadShowlist.chosen = [&launcher] { gameFilePicked(launcher); };
 }
 
 void OptionUdirClick(Launcher& launcher, int view)
@@ -207,6 +219,7 @@ void ClassifySelectedGame(Launcher& launcher, const QString& name)
 
 bool CanLaunchSelection(const Launcher& launcher)
 {
-    return launcher.settings.ListMode == doomGames && !launcher.controls.PwadShowlist.isEmpty() &&
+    const bool isOpen = launcher.settings.ListMode != zipLibrary; // a zip is not extracted yet
+    return isOpen && launcher.controls.PwadShowlist.selected() >= 0 &&
            launcher.controls.OptionTabs.selected() == 0;
 }

@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -39,31 +40,39 @@ QString savegameRecordPath(const Launcher& launcher)
         return recordPath(save, RecordKeyOf(name), u".vyks"_s);
     if (selection.PwadSelected)
         return recordPath(save, name, u".vyks"_s);
+    if (selection.GwadSelected && !selection.SelectedGameFile.isEmpty())
+        return recordPath(save + u"Gwads/"_s + name.toLower() + u'/', BaseNameOf(selection.SelectedGameFile),
+                          u".vyks"_s);
     if (selection.ArchiveSelected)
         return recordPath(save + u"Zip/"_s, name, u".vyks"_s);
     return {};
 }
 
-void writeRecord(FileSystem& files, const QString& path, const QString& line)
+void writeRecord(FileSystem& files, const QString& path, const QStringList& lines)
 {
     if (path.isEmpty())
         return;
     try {
         files.createFolder(FolderOf(path));
-        WriteLines(files, path, {line});
+        WriteLines(files, path, lines);
     } catch (const FileError&) {
+    }
+}
+
+QStringList recordLines(const FileSystem& files, const QString& path)
+{
+    if (path.isEmpty() || !files.fileExists(path))
+        return {};
+    try {
+        return ReadLines(files, path);
+    } catch (const FileError&) {
+        return {};
     }
 }
 
 QString readRecord(const FileSystem& files, const QString& path)
 {
-    if (path.isEmpty() || !files.fileExists(path))
-        return {};
-    try {
-        return FirstField(ReadLines(files, path).value(0));
-    } catch (const FileError&) {
-        return {};
-    }
+    return FirstField(recordLines(files, path).value(0));
 }
 
 } // namespace
@@ -82,7 +91,7 @@ void SaveLastMap(Launcher& launcher, const QString& name)
 {
     if (launcher.controls.PwadShowlist.selectedText().isEmpty())
         return;
-    writeRecord(launcher.files, mapRecordPath(launcher, name), launcher.controls.MapList.selectedText());
+    writeRecord(launcher.files, mapRecordPath(launcher, name), {launcher.controls.MapList.selectedText()});
 }
 
 void RestoreLastMap(Launcher& launcher, const QString& name)
@@ -91,9 +100,54 @@ void RestoreLastMap(Launcher& launcher, const QString& name)
     maps.select(std::max(maps.find(readRecord(launcher.files, mapRecordPath(launcher, name))), 0));
 }
 
+void SaveGwadSelection(Launcher& launcher, const QString& name)
+{
+    const QString file = launcher.controls.PwadShowlist.selectedText();
+    const QString folder = launcher.paths.LaunchPath + u"GameInfo/Gwads/"_s;
+    if (file.isEmpty())
+        return;
+    writeRecord(launcher.files, recordPath(folder, name, u".vykg"_s), {file});
+    if (!launcher.settings.RememberLastMap)
+        return;
+    const QString path = recordPath(folder, name, u".vykm"_s);
+    const QString mapLine = file + u' ' + launcher.controls.MapList.selectedText();
+    QStringList lines;
+    bool placed = false;
+    for (const QString& line : recordLines(launcher.files, path)) {
+        if (!line.startsWith(file, Qt::CaseInsensitive))
+            lines << line;
+        else if (!std::exchange(placed, true))
+            lines << mapLine;
+    }
+    if (!placed)
+        lines << mapLine;
+    writeRecord(launcher.files, path, lines);
+}
+
+bool RestoreGwadFile(Launcher& launcher, const QString& name)
+{
+    const QString folder = launcher.paths.LaunchPath + u"GameInfo/Gwads/"_s;
+    const QString file = readRecord(launcher.files, recordPath(folder, name, u".vykg"_s));
+    const int entry = launcher.controls.PwadShowlist.find(file);
+    launcher.controls.PwadShowlist.select(entry);
+    return entry >= 0;
+}
+
+void RestoreGwadMap(Launcher& launcher, const QString& name)
+{
+    const QString folder = launcher.paths.LaunchPath + u"GameInfo/Gwads/"_s;
+    const QString file = launcher.controls.PwadShowlist.selectedText().trimmed();
+    QString map;
+    for (const QString& line : recordLines(launcher.files, recordPath(folder, name, u".vykm"_s)))
+        if (line.startsWith(file, Qt::CaseInsensitive))
+            map = line.mid(file.size()).trimmed();
+    ListBox& maps = launcher.controls.MapList;
+    maps.select(std::max(maps.find(map), 0));
+}
+
 void SaveLastSavegame(Launcher& launcher)
 {
-    writeRecord(launcher.files, savegameRecordPath(launcher), launcher.launch.SaveSlot);
+    writeRecord(launcher.files, savegameRecordPath(launcher), {launcher.launch.SaveSlot});
 }
 
 void ForgetLastSavegame(Launcher& launcher)

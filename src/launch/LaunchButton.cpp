@@ -1,5 +1,6 @@
 #include "launch/LaunchButton.h"
 
+#include "launch/LaunchInstalledGame.h"
 #include "platform/Paths.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +17,6 @@ LaunchResult LaunchSelectedGame(Launcher& launcher)
         launcher.prompts.MsgboxPos(u"The "_s + tail.toLower(), Msg::Ok + Msg::Information, u" Wad error"_s);
         return LaunchResult::Refused;
     }
-    if (!launcher.selection.DoomGameSelected)
-        return LaunchResult::Refused; // installed games and zips have no launch routine yet
-    return LaunchCommercialGame(launcher);
+    return launcher.selection.DoomGameSelected ? LaunchCommercialGame(launcher)
+                                               : LaunchInstalledGame(launcher);
 }

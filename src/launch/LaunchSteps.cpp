@@ -84,18 +84,22 @@ QString CustomText(const Launcher& launcher)
     return text.isEmpty() ? QString() : text + u' ';
 }
 
+LaunchResult RefuseUnquotable(Launcher& launcher)
+{
+    launcher.launch.AfterLaunch = false;
+    launcher.launch.ShortcutMode = false;
+    launcher.prompts.MsgboxPos(u"A file or folder name holds a double quote, which the engine's command line "
+                               "cannot carry.    \r\nRename it and try again.    "_s,
+                               Msg::Ok + Msg::Information, u" Launch error"_s);
+    return LaunchResult::Refused;
+}
+
 LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine)
 {
     LaunchState& launch = launcher.launch;
     const bool forShortcut = std::exchange(launch.ShortcutMode, false);
-    if (!canBeQuoted(launcher, commandLine)) {
-        launcher.prompts.MsgboxPos(
-            u"A file or folder name holds a double quote, which the engine's command line "
-            "cannot carry.    \r\nRename it and try again.    "_s,
-            Msg::Ok + Msg::Information, u" Launch error"_s);
-        launch.AfterLaunch = false;
-        return LaunchResult::Refused;
-    }
+    if (!canBeQuoted(launcher, commandLine))
+        return RefuseUnquotable(launcher);
     if (forShortcut) {
         launch.ShortcutArguments = commandLine.mid(Engine.size() + 1);
         launch.AfterLaunch = false;

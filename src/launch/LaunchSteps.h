@@ -24,6 +24,9 @@ QString StartSwitches(const Launcher& launcher);
 // The player's own parameters, as typed, and a blank.
 QString CustomText(const Launcher& launcher);
 
+// Refuses a name that holds a double quote, with a message: no command line can carry it.
+LaunchResult RefuseUnquotable(Launcher& launcher);
+
 // Hands the arguments over in ShortcutMode; otherwise writes launch.log, starts the engine and leaves the
 // launcher as the launch mode says. A start that fails is reported.
 LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine);

@@ -26,6 +26,7 @@ ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& path
     const QString kelspack = paths.Md2Path + u"Kelspack/"_s;
     return {.ModelPacksMissing =
                 !files.fileExists(paths.Md2Path + u"HudWeapons/SuperShotgun/db-shells.md2"_s),
+            .ModelPack2Installed = files.fileExists(paths.Md2Path + u"Tovrens/Gore/Gore6.dmd"_s),
             .KelspackInstalled = files.fileExists(kelspack + u"AK47/AK47.md2"_s) &&
                                  files.fileExists(kelspack + u"kelspack.wad"_s)};
 }

@@ -7,8 +7,9 @@
 // Which of the optional model packs are installed.
 struct ModelPacks
 {
-    bool ModelPacksMissing = true;  // the base pack is not there
-    bool KelspackInstalled = false; // the optional weapons
+    bool ModelPacksMissing = true;    // the base pack is not there
+    bool ModelPack2Installed = false; // the Tovrens pack
+    bool KelspackInstalled = false;   // the optional weapons
 };
 
 // Looks for the packs' marker files.

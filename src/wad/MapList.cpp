@@ -20,7 +20,8 @@ void mapClicked(Launcher& launcher)
 void mapPicked(Launcher& launcher)
 {
     if (launcher.settings.RememberLastMap) {
-        SaveLastMap(launcher, SelectedRecordName(launcher));
+        launcher.selection.GwadSelected ? SaveGwadSelection(launcher, launcher.selection.SelectedGwadGame)
+                                        : SaveLastMap(launcher, SelectedRecordName(launcher));
         if (launcher.settings.RememberLastSavegame)
             ForgetLastSavegame(launcher);
     }
@@ -37,8 +38,10 @@ void ConnectMapList(Launcher& launcher)
 
 void SelectStartMap(Launcher& launcher)
 {
-    if (launcher.settings.RememberLastMap)
-        RestoreLastMap(launcher, SelectedRecordName(launcher));
-    else
+    if (!launcher.settings.RememberLastMap)
         launcher.controls.MapList.select(0);
+    else if (launcher.selection.GwadSelected)
+        RestoreGwadMap(launcher, launcher.selection.SelectedGwadGame);
+    else
+        RestoreLastMap(launcher, SelectedRecordName(launcher));
 }

@@ -66,7 +66,7 @@ private Q_SLOTS:
         game.selectGame(u"BETA"_s);
         QVERIFY(launcher.selection.PwadSelected && !launcher.selection.GwadSelected);
         QCOMPARE(controls.MapList.entries(), QStringList{u"E1M1"_s});
-        QVERIFY(!launcher.selection.DoomGameSelected && !controls.LaunchButton.enabled);
+        QVERIFY(!launcher.selection.DoomGameSelected && controls.LaunchButton.enabled);
         game.installation.add(u"VYKArchives/some.ZIP"_s);
         game.installation.add(u"VYKArchives/some.txt"_s);
         OptionUdirClick(launcher, 2);

@@ -254,15 +254,6 @@ private Q_SLOTS:
         QCOMPARE(game.installation.read(u"VYKLaunch/launch.log"_s), "the last line");
     }
 
-    void otherViewsLaunchNothing()
-    {
-        CommercialGame game;
-        game.addWad(u"VYKGames/Mine/Pwads/mine.wad"_s, {u"MAP01"_s});
-        OptionUdirClick(game.launcher, 0);
-        QCOMPARE(LaunchSelectedGame(game.launcher), LaunchResult::Refused);
-        verifyNothingHappened(game);
-    }
-
     void shellOpen()
     {
         QueuedPrompts prompts;

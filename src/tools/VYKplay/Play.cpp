@@ -116,8 +116,8 @@ bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& er
 
 int play(Launcher& launcher, const Arguments& arguments, QTextStream& err)
 {
-    if (!launcher.selection.DoomGameSelected) {
-        err << "Only the Doom games can be started from here so far." << Qt::endl;
+    if (launcher.selection.ArchiveSelected) {
+        err << "The games of the zip library cannot be started yet." << Qt::endl;
         return refused;
     }
     if (!chooseStart(launcher, arguments, err))

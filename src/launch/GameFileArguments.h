@@ -1,0 +1,16 @@
+#pragma once
+
+#include "app/Launcher.h"
+
+#include <QStringList>
+
+// How an installed game's files reach the engine.
+struct GameFileArguments
+{
+    QString text;      // every piece ends in one blank
+    QStringList names; // what stands in quotes in it
+};
+
+// The file arguments of the selected game. `iwadMissing`: the engine does not find the IWAD by itself and
+// then is told every file too.
+GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing);

@@ -1,0 +1,208 @@
+#include "launch/LaunchInstalledGame.h"
+#include "launch/LaunchButton.h"
+#include "platform/Text.h"
+#include "tests/support/CommercialGame.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Installed games, shown in their view; the skill is "Hurt me plenty".
+class InstalledGame : public CommercialGame
+{
+public:
+    InstalledGame()
+    {
+        addWad(u"VYKGames/Manual/Pwads/small.wad"_s, {u"MAP01"_s});
+        addWad(u"VYKGames/Manual/Pwads/Main.wad"_s, {u"MAP01"_s, u"MAP02"_s, u"MAP03"_s});
+        addWad(u"VYKGames/Manual/Pwads/textures.wad"_s, {});
+        installation.add(u"VYKGames/Manual/Pwads/a.deh"_s, "patch");
+        installation.add(u"VYKGames/Manual/Pwads/b.DEH"_s, "patch");
+        installation.add(u"VYKGames/Manual/Pwads/d.ded"_s, "definition");
+        addWad(u"VYKGames/Auto Game/Gwads/first.wad"_s, {u"E1M1"_s, u"E1M2"_s});
+        addWad(u"VYKGames/Auto Game/Gwads/second.wad"_s, {u"E2M1"_s});
+        addWad(u"VYKGames/Auto Game/Gwads/empty.wad"_s, {});
+        installation.add(u"VYKGames/Auto Game/Gwads/info.txt"_s, "read me");
+        pickSkill(3);
+        OptionUdirClick(launcher, 0);
+    }
+
+    void pickFile(const QString& file)
+    {
+        ListBox& shown = launcher.controls.PwadShowlist;
+        shown.click(shown.find(file));
+    }
+    QString launchedLine()
+    {
+        return LaunchSelectedGame(launcher) == LaunchResult::Started ? processes.lastCommandLine()
+                                                                     : QString();
+    }
+    void checkPwad(const QByteArray& fields) { installation.add(u"VYKLaunch/Data/checkpwad.vyk"_s, fields); }
+
+    // The launch is refused with that message, and nothing is written or started.
+    void verifyRefused(const QString& title, const QString& partOfText)
+    {
+        prompts.expectMessage();
+        QCOMPARE(LaunchInstalledGame(launcher), LaunchResult::Refused);
+        QCOMPARE(prompts.titles.last(), title);
+        QVERIFY2(prompts.texts.last().contains(partOfText), qPrintable(prompts.texts.last()));
+        QCOMPARE(prompts.styles.last(), 64);
+        QVERIFY(processes.starts.isEmpty());
+        QVERIFY(!installation.exists(u"VYKLaunch/launch.log"_s));
+    }
+};
+
+} // namespace
+
+class LaunchInstalledGameTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aManualGameWithAKnownIwadNeedsItsFolderOnly()
+    {
+        InstalledGame game;
+        game.selectGame(u"MANUAL"_s);
+        game.pickMap(u"MAP02"_s);
+        const QString line = game.launchedLine();
+        QVERIFY2(line.startsWith(u"Bin\\Keldrax -Doom2 -udir \"Manual\" -np "_s), qPrintable(line));
+        QVERIFY2(line.endsWith(u"-sk 3 -wp 02 "_s), qPrintable(line));
+        QCOMPARE(line.count(u'"'), 2 + 6); // the folder and three console commands
+        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Pwads/manual.vykm"_s), QByteArray("MAP02\r\n"));
+        QCOMPARE(game.installation.read(u"VYKLaunch/launch.log"_s), ToAnsi(line + u"\r\n"_s));
+    }
+
+    void aManualGameWithAnIwadElsewhereNeedsEveryFile()
+    {
+        InstalledGame game;
+        game.addWad(u"Elsewhere/Doom2.wad"_s, {u"MAP01"_s});
+        QVERIFY(QFile::remove(game.path(u"Iwads/Doom2.wad"_s)));
+        game.launcher.iwads.of(GameFamily::Doom2) = game.path(u"Elsewhere/Doom2.wad"_s);
+        game.selectGame(u"MANUAL"_s);
+        const QString line = game.launchedLine();
+        const QString expected = u"Bin\\Keldrax -iwad \"%1/Elsewhere/Doom2.wad\" -udir \"Manual\" "
+                                 "-f \"Main.wad\" \"small.wad\" \"textures.wad\" -deh \"a.deh\" \"b.DEH\" "
+                                 "-d \"%1/VYKGames/Manual/Pwads/d.ded\" -np "_s.arg(game.installation.root());
+        QVERIFY2(line.startsWith(expected), qPrintable(line + u'\n' + expected));
+    }
+
+    void anAutoLoadingGameNamesItsChosenFile()
+    {
+        InstalledGame game;
+        game.selectGame(u"AUTO GAME"_s);
+        QVERIFY(!game.launcher.controls.LaunchButton.enabled); // nothing is chosen yet
+        game.pickFile(u"first.wad"_s);
+        QVERIFY(game.launcher.controls.LaunchButton.enabled);
+        game.pickMap(u"E1M2"_s);
+        const QString line = game.launchedLine();
+        QVERIFY2(line.startsWith(u"Bin\\Keldrax -Doom -udir \"Auto Game\" -f \"first.wad\" -np "_s),
+                 qPrintable(line));
+        QVERIFY(line.endsWith(u"-wp 1 2 "_s));
+    }
+
+    void anAutoLoadingGameRemembersFileAndMap()
+    {
+        InstalledGame game;
+        game.selectGame(u"AUTO GAME"_s);
+        game.pickFile(u"second.wad"_s);
+        game.pickFile(u"first.wad"_s);
+        game.pickMap(u"E1M2"_s);
+        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Gwads/auto game.vykg"_s),
+                 QByteArray("first.wad\r\n"));
+        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Gwads/auto game.vykm"_s),
+                 QByteArray("second.wad E2M1\r\nfirst.wad E1M2\r\n"));
+
+        game.selectGame(u"MANUAL"_s);
+        game.selectGame(u"AUTO GAME"_s);
+        QCOMPARE(game.launcher.controls.PwadShowlist.selectedText(), u"first.wad"_s);
+        QCOMPARE(game.launcher.controls.MapList.selectedText(), u"E1M2"_s);
+    }
+
+    void anAutoLoadingGameNeedsAWadWithMaps()
+    {
+        InstalledGame game;
+        game.selectGame(u"AUTO GAME"_s);
+        game.verifyRefused(u" Launch error"_s, u"You have not yet selected a WAD file.     "_s);
+        game.pickFile(u"info.txt"_s);
+        game.verifyRefused(u" Launch error"_s, u"You have not yet selected a WAD file.     "_s);
+        game.pickFile(u"empty.wad"_s);
+        game.verifyRefused(u" Launch error"_s, u"The EMPTY.WAD contains no levels.     "_s);
+    }
+
+    void compatibilityEntriesChooseTheIwadAndTheMode()
+    {
+        InstalledGame game;
+        game.selectGame(u"MANUAL"_s);
+        game.checkPwad("Check2\r\nmain.WAD\r\n");
+        game.verifyRefused(u" Missing Final Doom Iwad "_s, u"one of the Final Doom Iwads"_s);
+        game.addWad(u"Data/Plutonia.wad"_s, {u"MAP01"_s});
+        game.launcher.iwads.of(GameFamily::Plutonia) = game.path(u"Data/Plutonia.wad"_s);
+        QVERIFY(game.launchedLine().startsWith(u"Bin\\Keldrax -Plutonia -udir "_s));
+
+        game.checkPwad("Check7,Main.wad\r\n");
+        const QString basic = game.launchedLine();
+        QVERIFY2(basic.contains(u" -nc -nws "_s) && !basic.contains(u"-cmd"_s), qPrintable(basic));
+        QVERIFY(!game.launcher.controls.chkMain[0].ticked() && !game.launcher.settings.BasicDoom);
+
+        game.checkPwad("Check3,Main.wad\r\n");
+        QVERIFY(game.launchedLine().contains(u" -boom "_s));
+    }
+
+    void aMissingIwadIsNamedByTheMaps()
+    {
+        InstalledGame game;
+        game.launcher.iwads.Path.fill({});
+        game.selectGame(u"MANUAL"_s);
+        game.verifyRefused(u" Iwad not found for current map"_s, u"requires the Doom2.wad before"_s);
+        game.pickSkill(0); // no map is chosen
+        game.verifyRefused(u" Iwad not found for current map"_s, u"requires the Doom2.wad before"_s);
+        game.pickSkill(3);
+        game.selectGame(u"AUTO GAME"_s);
+        game.pickFile(u"first.wad"_s);
+        game.verifyRefused(u" Iwad not found for current map"_s, u"requires the Doom.wad before"_s);
+    }
+
+    void scriptedMapsNeedTheirResources()
+    {
+        InstalledGame game;
+        game.addWad(u"VYKGames/Blackwater Keep/Pwads/blakeep.wad"_s, {u"MAP01"_s});
+        OptionUdirClick(game.launcher, 0);
+        game.selectGame(u"BLACKWATER KEEP"_s);
+        game.verifyRefused(u" Map error - updated map required"_s, u"Components of this map"_s);
+        game.installation.addFolder(u"Md2/blakeep"_s);
+        game.installation.addFolder(u"Data/custom.hires/blakeep"_s);
+        game.verifyRefused(u" Model packs required"_s, u"require the model packs"_s);
+        game.launcher.modelPacks.ModelPacksMissing = false;
+        QFile wad(game.path(u"VYKGames/Blackwater Keep/Pwads/blakeep.wad"_s));
+        QVERIFY(wad.open(QIODevice::ReadWrite));
+        QVERIFY(wad.setFileTime(QDateTime({2020, 8, 10}, {10, 10, 9}), QFileDevice::FileModificationTime));
+        game.verifyRefused(u" Map update required"_s, u"an older version"_s);
+        QVERIFY(wad.setFileTime(QDateTime({2020, 8, 10}, {10, 10, 10}), QFileDevice::FileModificationTime));
+        QVERIFY(game.launchedLine().contains(u" -usb "_s));
+    }
+
+    void theAddOnsLevelNeedsTheAddOn()
+    {
+        InstalledGame game;
+        game.addWad(u"VYKGames/Vex/Pwads/VEXLEV.WAD"_s, {u"MAP01"_s});
+        OptionUdirClick(game.launcher, 0);
+        game.selectGame(u"VEX"_s);
+        game.verifyRefused(u" VEX Addon required"_s, u"latest version of the Keldrax VEX"_s);
+        game.installation.add(u"Data/VYK_addon/Vexlev/vexlev_addon.wad"_s, "new");
+        QVERIFY(!game.launchedLine().isEmpty());
+    }
+
+    void aNameWithAQuoteIsRefused()
+    {
+        InstalledGame game;
+        game.addWad(u"VYKGames/A \"quoted\" game/Pwads/x.wad"_s, {u"MAP01"_s});
+        OptionUdirClick(game.launcher, 0);
+        game.selectGame(u"A \"QUOTED\" GAME"_s);
+        game.verifyRefused(u" Launch error"_s, u"double quote"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(LaunchInstalledGameTest)
+#include "LaunchInstalledGameTest.moc"
