@@ -155,8 +155,8 @@ Controls::Controls()
         {FrameGlobal[2], QString(), Hidden},
         {LightText, QString(), Hidden},
         {LaunchButton, u"Launch"_s, Shown},
-        {WineImage, QString(), Hidden},
-        {ImageCM, QString(), Hidden},
+        {WineImage, u"Wine"_s, Hidden},
+        {ImageCM, u"Scripted maps"_s, Hidden},
         {Home[0], u"Website"_s, Shown},
         {Home[3], u"Model packs"_s, Shown},
     };

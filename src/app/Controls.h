@@ -28,7 +28,7 @@ struct Controls
 
     // The games tab
     OptionButtons OptionUdir{3, 1};               // the games list's views
-    std::array<Control, 4> Auto;                  // the headings
+    std::array<Button, 4> Auto;                   // the headings
     ListBox PwadList{ListBox::Order::Sorted};     // the games
     ListBox PwadShowlist{ListBox::Order::Sorted}; // the files of the selected game
     ListBox MapList;
@@ -74,8 +74,8 @@ struct Controls
     std::array<Control, 4> ResLabel;
     std::array<Control, 4> ModLabel;
     Control ExpLabel;
-    Control DevMode;
-    std::array<Control, 7> ImageDG;
+    Button DevMode;
+    std::array<Button, 7> ImageDG;
     TextBox HiResText; // the texture-path dialog's location
 
     // The strip below the tabs

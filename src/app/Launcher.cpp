@@ -5,7 +5,9 @@
 #include "app/Toolbar.h"
 #include "app/WebLinks.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/ScriptedMapMode.h"
 #include "launch/LaunchButton.h"
+#include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
 #include "options/OptionTabs.h"
 #include "options/Skills.h"
@@ -26,10 +28,12 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectWebLinks(*this);
     ConnectToolbar(*this);
     ConnectGameLists(*this);
+    ConnectScriptedMapMode(*this);
     ConnectMapList(*this);
     ConnectSaveGames(*this);
     ConnectSkills(*this);
     ConnectOptionTabs(*this);
     ConnectDisplayMode(*this);
+    ConnectDeveloperSwitches(*this);
     ConnectLaunchButton(*this);
 }

@@ -4,6 +4,7 @@
 #include "app/SettingsLoad.h"
 #include "app/Themes.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/ScriptedMapMode.h"
 #include "options/DisplayMode.h"
 #include "options/PresenceChecks.h"
 #include "platform/Paths.h"
@@ -142,6 +143,7 @@ void LoadMainWindow(Launcher& launcher)
     controls.SoundFrame[1].visible = !settings.PlaylistFrameHidden;
     reportReset(launcher);
     showZeroTimes(launcher);
+    RestoreScriptedMapMode(launcher);
     controls.MainForm.caption = launcher.startUp.WindowCaption;
     launcher.window.refresh();
 }

@@ -1,6 +1,8 @@
 #include "catalogue/GameLists.h"
 
 #include "catalogue/GameRecords.h"
+#include "catalogue/ScriptedMapMode.h"
+#include "catalogue/ScriptedMaps.h"
 #include "options/Skills.h"
 #include "platform/Paths.h"
 #include "savegames/SaveGames.h"
@@ -63,6 +65,10 @@ void installedGameClicked(Launcher& launcher, const QString& name)
     constexpr int manyFiles = 5;
     Selection& selection = launcher.selection;
     ClassifySelectedGame(launcher, name);
+    const bool scripted =
+        selection.PwadSelected && IsScriptedMap(launcher.files, launcher.paths, name).isScriptedMap;
+    launcher.controls.Auto[0].caption =
+        scripted ? u"KELDRAX SCRIPTED MAP"_s : heading(launcher, installedGames);
     launcher.settings.SelectedGame = name;
     (selection.GwadSelected ? selection.SelectedGwadGame : selection.SelectedPwadGame) = name;
     const QString folder = launcher.files.actualPath(launcher.paths.GamesPath + name +
@@ -83,6 +89,8 @@ void installedGameClicked(Launcher& launcher, const QString& name)
 void gameClicked(Launcher& launcher)
 {
     const QString name = launcher.controls.PwadList.selectedText();
+    if (launcher.controls.chkAutoSelect.ticked())
+        launcher.settings.SelectedGameAutoOn = name;
     switch (launcher.settings.ListMode) {
     case installedGames:
         installedGameClicked(launcher, name);
@@ -153,7 +161,7 @@ void OptionUdirClick(Launcher& launcher, int view)
         controls.chkLaunchPrefs[3].ticked() ? QString() : u" Right click on selected game for tasks menu. "_s;
 
     launcher.settings.ListMode = view;
-    controls.ImageCM.visible = false;
+    controls.ImageCM.visible = ScriptedMapSwitchShown(launcher);
     controls.AuxButton[zipLibraryButton].visible = view == zipLibrary;
     controls.AuxButton[shortcutButton].enabled = true;
     FillGamesList(launcher, view);
@@ -180,10 +188,15 @@ void FillInstalledGamesList(Launcher& launcher)
     ListBox& list = launcher.controls.PwadList;
     list.clear();
     const QString games = launcher.paths.GamesPath;
-    for (const QString& name : launcher.files.folders(games))
-        if (launcher.files.folderExists(games + name + u"/Pwads"_s) ||
-            launcher.files.folderExists(games + name + u"/Gwads"_s))
+    // Without the maps' models there is no switch to leave the mode by.
+    const bool scriptedOnly =
+        launcher.settings.ScriptedMapMode && ScriptedMapModelsPresent(launcher.files, launcher.paths);
+    for (const QString& name : launcher.files.folders(games)) {
+        const bool isGame = launcher.files.folderExists(games + name + u"/Pwads"_s) ||
+                            launcher.files.folderExists(games + name + u"/Gwads"_s);
+        if (isGame && (!scriptedOnly || IsScriptedMap(launcher.files, launcher.paths, name).isScriptedMap))
             list.add(launcher.font.CustomFontOn ? name : name.toUpper());
+    }
 }
 
 void FillDoomGamesList(Launcher& launcher)

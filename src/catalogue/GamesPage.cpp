@@ -1,10 +1,12 @@
 #include "catalogue/GamesPage.h"
 
+#include "ui/HeadingView.h"
 #include "ui/ListView.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -20,13 +22,29 @@ QVBoxLayout* newColumn()
 
 QLabel* heading(Controls& controls, ControlBinder& binder, int index)
 {
-    auto* label = new QLabel;
+    Button& control = controls.Auto[static_cast<size_t>(index)];
+    auto* label = new HeadingView;
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
     label->setMinimumHeight(20);
-    binder.bind(NameOf(u"Auto"_s, index), controls.Auto[static_cast<size_t>(index)], label);
+    binder.bind(NameOf(u"Auto"_s, index), control, label);
+    QObject::connect(label, &HeadingView::clicked, &binder, [&binder, &control] {
+        if (control.clicked)
+            binder.run(control.clicked);
+    });
     return label;
+}
+
+// The heading of the games list with the switch to the scripted maps beside it.
+QBoxLayout* gamesHeading(Controls& controls, ControlBinder& binder)
+{
+    auto* scriptedMaps = new QToolButton;
+    binder.bind(u"ImageCM"_s, controls.ImageCM, scriptedMaps);
+    auto* row = new QHBoxLayout;
+    row->addWidget(heading(controls, binder, 0), 1);
+    row->addWidget(scriptedMaps);
+    return row;
 }
 
 ListView* list(ControlBinder& binder, ListBox& control, const QString& objectName,
@@ -63,7 +81,7 @@ QBoxLayout* GamesPage::gamesColumn(Controls& controls, ControlBinder& binder)
 
     auto* column = newColumn();
     column->addLayout(views);
-    column->addWidget(heading(controls, binder, 0));
+    column->addLayout(gamesHeading(controls, binder));
     column->addWidget(list(binder, controls.PwadList, u"PwadList"_s, u"Games"_s, u"No games found"_s));
     return column;
 }

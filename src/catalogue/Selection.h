@@ -20,4 +20,6 @@ struct Selection
     bool ArchiveSelected = false;
 
     QString SaveGameFolder; // of the selected game
+
+    bool ignoreScriptedMapClick = false; // the next click on the scripted-map switch does nothing
 };

@@ -1,5 +1,7 @@
 #include "options/DisplayMode.h"
 
+#include "catalogue/ScriptedMapMode.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -54,6 +56,7 @@ void AdvancedMode(Launcher& launcher)
 {
     setShownInBoth(launcher.controls, true);
     launcher.controls.AuxButton[2].visible = launcher.settings.ShortcutCreation;
+    launcher.controls.ImageCM.visible = ScriptedMapSwitchShown(launcher);
 }
 
 void DefaultMode(Launcher& launcher)

@@ -4,6 +4,7 @@
 #include "catalogue/GameRecords.h"
 #include "launch/LaunchButton.h"
 #include "savegames/SaveGames.h"
+#include "catalogue/ScriptedMapMode.h"
 #include "tests/support/CommercialGame.h"
 
 #include <QTest>
@@ -205,6 +206,41 @@ private Q_SLOTS:
         QCOMPARE(game.installation.read(doom2Save), "7\r\n");
         QCOMPARE(LaunchSelectedGame(game.launcher), LaunchResult::Started);
         QVERIFY(game.processes.lastCommandLine().endsWith(u" -sk 3 -wp 31 "_s));
+    }
+
+    void theScriptedMapSwitch()
+    {
+        CommercialGame game;
+        Launcher& launcher = game.launcher;
+        Controls& controls = launcher.controls;
+        game.addWad(u"VYKGames/Plain/Pwads/p.wad"_s, {u"MAP01"_s});
+        game.addWad(u"VYKGames/iron tide/Pwads/irontide.wad"_s, {u"MAP01"_s});
+        controls.chkMain[2].setTicked(true);
+        OptionUdirClick(launcher, 0);
+        QVERIFY(!controls.ImageCM.visible); // no models, no switch
+        controls.Auto[0].clicked();
+        QCOMPARE(controls.PwadList.count(), 2);
+
+        game.installation.addFolder(u"Md2/irontide"_s);
+        OptionUdirClick(launcher, 0);
+        QVERIFY(controls.ImageCM.visible);
+        game.selectGame(u"PLAIN"_s);
+        QCOMPARE(controls.Auto[0].caption, u"INSTALLED GAMES LIST"_s);
+        launcher.settings.SelectedGameAutoOff = u"PLAIN"_s;
+        controls.ImageCM.clicked();
+        QCOMPARE(controls.PwadList.entries(), QStringList{u"IRON TIDE"_s});
+        QCOMPARE(controls.Auto[0].caption, u"KELDRAX SCRIPTED MAP"_s);
+        QVERIFY(controls.ChkCM.ticked() && controls.chkAutoSelect.ticked());
+        QCOMPARE(launcher.settings.SelectedGameAutoOn, u"IRON TIDE"_s);
+        controls.Auto[0].clicked();
+        QCOMPARE(controls.PwadList.selectedText(), u"PLAIN"_s);
+
+        // A mode that was restored is not toggled by the load.
+        controls.ImageCM.clicked();
+        RestoreScriptedMapMode(launcher);
+        QCOMPARE(controls.PwadList.entries(), QStringList{u"IRON TIDE"_s});
+        OptionUdirClick(launcher, 1);
+        QVERIFY(!controls.ImageCM.visible);
     }
 };
 
