@@ -25,18 +25,19 @@ QPushButton* link(ControlBinder& binder, Button& control, const QString& name)
 
 } // namespace
 
-HeaderBar::HeaderBar(Controls& controls, ControlBinder& binder, QWidget* parent) : QWidget(parent)
+HeaderBar::HeaderBar(TitleView* picture, Controls& controls, ControlBinder& binder, QWidget* parent)
+    : QWidget(parent)
 {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(8);
-    rows->addWidget(titlePicture(controls, binder));
+    arrange(picture, controls, binder);
+    rows->addWidget(picture);
     rows->addWidget(toolsAndTabs(controls, binder));
 }
 
-QWidget* HeaderBar::titlePicture(Controls& controls, ControlBinder& binder)
+void HeaderBar::arrange(TitleView* picture, Controls& controls, ControlBinder& binder)
 {
-    auto* picture = new TitleView;
     picture->setAccessibleName(u"Title picture"_s);
     auto* links = new QVBoxLayout(picture);
     links->setContentsMargins(0, 12, 16, 12);
@@ -49,7 +50,6 @@ QWidget* HeaderBar::titlePicture(Controls& controls, ControlBinder& binder)
     binder.bind(u"TitlePic"_s, title, picture,
                 [picture, &title](const QString&) { picture->showPicture(title.text); });
     connect(picture, &TitleView::clicked, this, [&binder, &title] { binder.run(title.clicked); });
-    return picture;
 }
 
 QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)

@@ -5,15 +5,18 @@
 
 #include <QWidget>
 
+class TitleView;
+
 // The top of the window: the title picture with the two web links over it, and the tools and tabs below.
 class HeaderBar : public QWidget
 {
     Q_OBJECT
 
 public:
-    HeaderBar(Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
+    // `picture` is the title picture, which the bar takes.
+    HeaderBar(TitleView* picture, Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
 
 private:
-    QWidget* titlePicture(Controls& controls, ControlBinder& binder);
+    void arrange(TitleView* picture, Controls& controls, ControlBinder& binder);
     QWidget* toolsAndTabs(Controls& controls, ControlBinder& binder);
 };

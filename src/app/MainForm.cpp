@@ -5,6 +5,7 @@
 #include "app/StripBar.h"
 #include "catalogue/GamesPage.h"
 #include "iwads/IwadForm.h"
+#include "ui/TitleView.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -35,6 +36,7 @@ MainForm::MainForm()
 void MainForm::attach(Launcher& launcher)
 {
     m_launcher = &launcher;
+    m_title = new TitleView(this);
     connect(&m_binder, &ControlBinder::written, this, &MainForm::afterWrite);
 }
 
@@ -45,7 +47,7 @@ void MainForm::build()
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 12);
     rows->setSpacing(8);
-    rows->addWidget(new HeaderBar(controls, m_binder));
+    rows->addWidget(new HeaderBar(m_title, controls, m_binder));
     auto* below = new QVBoxLayout;
     below->setContentsMargins(12, 0, 12, 0);
     below->setSpacing(10);
@@ -106,6 +108,7 @@ bool MainForm::isReachableAt(QPoint topLeft) const
 
 void MainForm::refresh()
 {
+    m_title->showPicture(m_launcher->controls.TitlePic.text); // read beside the rest of the load
     m_binder.write();
 }
 

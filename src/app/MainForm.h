@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class IwadForm;
+class TitleView;
 
 // The main window: composes the pages, forwards the window's events, and is what the launcher asks of it.
 class MainForm : public QWidget, public MainWindowHost
@@ -47,6 +48,7 @@ private:
 
     Launcher* m_launcher = nullptr; // set by attach
     ControlBinder m_binder;
+    TitleView* m_title = nullptr;
     IwadForm* m_iwadForm = nullptr; // from its first use on
     bool m_compact = false;         // as the window is sized
 };
