@@ -144,6 +144,17 @@ Controls::Controls()
         {butMusic[0], u"New"_s, Shown},
         {butMusic[1], u"Open"_s, Shown},
         {butMusic[2], u"Delete"_s, Shown},
+        {mcDeleteFile, u"Delete file"_s, Shown},
+        {mcDeleteFolder, u"Uninstall game from list"_s, Shown},
+        {mcRenameFolder, u"Rename game in list"_s, Shown},
+        {mcUdirConvert, u"Convert Udir to Pwads"_s, Shown},
+        {mcGwadConvert, u"Convert  Udir to Gwads"_s, Shown},
+        {mcUdirUnZip, u"Install to Games List"_s, Shown},
+        {mcRenameArchive, u"Rename zip file"_s, Shown},
+        {mcDeleteArchive, u"Delete zip file"_s, Shown},
+        {mcGwadUnZip, u"Install  to Games List as Gwad"_s, Shown},
+        {mcDelSaveGame, u"Delete savegame"_s, Shown},
+        {AuxButton[0], u"Install"_s, Shown},
         {AuxButton[2], QString(), Hidden},
         {AuxButton[3], QString(), Hidden},
         {AuxButton[5], u"IWADs"_s, Shown},
@@ -162,6 +173,8 @@ Controls::Controls()
     };
     for (const auto& row : others)
         place(row.control, row.caption, row.look);
+
+    Sep3.isSeparator = sep1.isSeparator = true;
 
     Corpse.text = u"9"_s;
     Timeout.text = u"2"_s;
@@ -188,6 +201,9 @@ Controls::Controls()
     Home[3].toolTip = u"  Keldrax model pack downloads.  "_s;
     TitlePic.toolTip = u"  Double click to cycle through themes.  "_s;
     ImageCM.toolTip = u" Toggle Keldrax scripted maps if installed. "_s;
+    edFilter.toolTip = u"Find a game by a part of its name (Ctrl+F)."_s;
+    AuxButton[0].toolTip =
+        u"Install a pwad to the games list, either\r\nzipped or unzipped files can be installed."_s;
     AuxButton[5].toolTip = u"Iwad locations used by Keldrax."_s;
     ExpLabel.toolTip = u" Time it takes for grenade to explode in tics "_s;
 }

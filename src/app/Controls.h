@@ -29,10 +29,20 @@ struct Controls
     // The games tab
     OptionButtons OptionUdir{3, 1};               // the games list's views
     std::array<Button, 4> Auto;                   // the headings
+    TextBox edFilter;                             // what the games in sight have in their names
     ListBox PwadList{ListBox::Order::Sorted};     // the games
     ListBox PwadShowlist{ListBox::Order::Sorted}; // the files of the selected game
     ListBox MapList;
     ListBox SaveGameList{ListBox::Order::Sorted};
+    // The task menus: of a Gwad game's files, of an installed game, of a zip, of a savegame
+    MenuItem mcDeleteFile;
+    MenuItem mcDeleteFolder, mcRenameFolder, Sep3, mcUdirConvert, mcGwadConvert;
+    MenuItem mcUdirUnZip, sep1, mcRenameArchive, mcDeleteArchive, mcGwadUnZip;
+    MenuItem mcDelSaveGame;
+    const Menu mPopup3{&mcDeleteFile};
+    const Menu mPopup5{&mcDeleteFolder, &mcRenameFolder, &Sep3, &mcUdirConvert, &mcGwadConvert};
+    const Menu mPopup6{&mcUdirUnZip, &sep1, &mcRenameArchive, &mcDeleteArchive, &mcGwadUnZip};
+    const Menu mPopup7{&mcDelSaveGame};
     CheckBox ChkCM;
     CheckBox chkAutoSelect;
 

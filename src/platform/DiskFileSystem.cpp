@@ -8,6 +8,7 @@
 #include <QSaveFile>
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +49,16 @@ Kind KindOf(int error)
 {
     const int error = errno;
     throw FileError(KindOf(error), path, qt_error_string(error));
+}
+
+[[noreturn]] void Fail(const QString& path, const std::error_code& error)
+{
+    throw FileError(KindOf(error.value()), path, QString::fromStdString(error.message()));
+}
+
+std::filesystem::path NativeOf(const QString& path)
+{
+    return QFileInfo(path).filesystemFilePath();
 }
 
 // Ascending without regard to case; the exact spelling decides between names that differ in nothing else.
@@ -185,11 +196,18 @@ void Replace(const QString& wanted, const std::function<void(QSaveFile&)>& fill)
         Fail(path, file);
 }
 
-void Append(QSaveFile& file, const QByteArray& bytes)
+void Append(QFileDevice& file, const QByteArray& bytes)
 {
     errno = 0;
     if (file.write(bytes) != bytes.size())
         Fail(file.fileName(), file);
+}
+
+// A time that cannot be set is no failure: nothing of the file itself is lost.
+void SetTime(QFileDevice& file, const QDateTime& modified)
+{
+    if (modified.isValid() && file.flush())
+        file.setFileTime(modified, QFileDevice::FileModificationTime);
 }
 
 void OpenForReading(QFile& file)
@@ -244,6 +262,23 @@ QDateTime DiskFileSystem::modified(const QString& path) const
     return found.whole ? QFileInfo(found.path).lastModified() : QDateTime();
 }
 
+FileStamp DiskFileSystem::stamp(const QString& path) const
+{
+    const Found found = Find(path);
+    if (!found.whole)
+        return {};
+    const QFileInfo file(found.path);
+    return {file.size(), file.lastModified().toMSecsSinceEpoch(),
+            file.metadataChangeTime().toMSecsSinceEpoch()};
+}
+
+std::unique_ptr<QIODevice> DiskFileSystem::open(const QString& path) const
+{
+    auto file = std::make_unique<QFile>(ExistingFile(path));
+    OpenForReading(*file);
+    return file;
+}
+
 QByteArray DiskFileSystem::read(const QString& path, qint64 limit) const
 {
     QFile file(ExistingFile(path));
@@ -275,7 +310,51 @@ void DiskFileSystem::copy(const QString& from, const QString& to)
         for (QByteArray piece = ReadSome(source, pieceSize); !piece.isEmpty();
              piece = ReadSome(source, pieceSize))
             Append(file, piece);
+        SetTime(file, QFileInfo(source).lastModified());
     });
+}
+
+void DiskFileSystem::create(const QString& path, const std::function<QByteArray()>& next,
+                            const QDateTime& modified)
+{
+    const QString target = FindTarget(path).path;
+    RequireWritable(target);
+    QFile file(target);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly))
+        Fail(target, file);
+    try {
+        for (QByteArray piece = next(); !piece.isEmpty(); piece = next())
+            Append(file, piece);
+        SetTime(file, modified);
+        errno = 0;
+        file.close();
+        if (file.error() != QFileDevice::NoError)
+            Fail(target, file);
+    } catch (...) {
+        file.close();
+        QFile::remove(target);
+        throw;
+    }
+}
+
+void DiskFileSystem::move(const QString& from, const QString& to)
+{
+    const Found source = FindTarget(from);
+    if (!source.whole)
+        throw FileError(Kind::NotFound, from, u"no such file or folder"_s);
+    const Found target = FindTarget(to);
+    const bool onlyCase = target.whole && target.path == source.path;
+    const QString wanted = onlyCase ? Joined(FolderOf(source.path), FileNameOf(to)) : target.path;
+    const bool isFolder = QFileInfo(source.path).isDir() && !QFileInfo(source.path).isSymLink();
+    if (!onlyCase && target.whole && (isFolder || QFileInfo(target.path).isDir()))
+        throw FileError(Kind::Exists, target.path, u"the name is taken"_s);
+    if (!isFolder && !onlyCase)
+        RequireWritable(target.path);
+    std::error_code error;
+    std::filesystem::rename(NativeOf(source.path), NativeOf(wanted), error);
+    if (error)
+        Fail(source.path, error);
 }
 
 void DiskFileSystem::remove(const QString& path)
@@ -299,6 +378,19 @@ void DiskFileSystem::createFolder(const QString& path)
     errno = 0;
     if (!found.whole && !QDir().mkpath(found.path))
         Fail(found.path);
+}
+
+void DiskFileSystem::removeTree(const QString& path)
+{
+    const Found found = FindTarget(path);
+    if (!found.whole)
+        return;
+    if (const QFileInfo entry(found.path); !entry.isDir() && !entry.isSymLink())
+        throw FileError(Kind::Other, found.path, u"not a folder"_s);
+    std::error_code error;
+    std::filesystem::remove_all(NativeOf(found.path), error);
+    if (error)
+        Fail(found.path, error);
 }
 
 void DiskFileSystem::removeFolder(const QString& path)

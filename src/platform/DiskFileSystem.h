@@ -12,11 +12,17 @@ public:
     QStringList files(const QString& folder) const override;
     QStringList folders(const QString& folder) const override;
     QDateTime modified(const QString& path) const override;
+    FileStamp stamp(const QString& path) const override;
+    std::unique_ptr<QIODevice> open(const QString& path) const override;
     QByteArray read(const QString& path, qint64 limit) const override;
     void write(const QString& path, const QByteArray& bytes) override;
     void overwrite(const QString& path, const QByteArray& bytes) override;
     void copy(const QString& from, const QString& to) override;
+    void create(const QString& path, const std::function<QByteArray()>& next,
+                const QDateTime& modified) override;
+    void move(const QString& from, const QString& to) override;
     void remove(const QString& path) override;
     void createFolder(const QString& path) override;
+    void removeTree(const QString& path) override;
     void removeFolder(const QString& path) override;
 };

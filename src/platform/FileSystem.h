@@ -4,8 +4,22 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QIODevice>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
+#include <memory>
+
+// What tells whether a file is still the one that was seen before: its size in bytes, and the times of its
+// last change and of its last change of any kind in milliseconds since 1970. -1 where nothing is there.
+struct FileStamp
+{
+    qint64 size = -1;
+    qint64 modified = -1;
+    qint64 changed = -1;
+    bool operator==(const FileStamp&) const = default;
+};
 
 // The disk. Every path is absolute and written with '/'; a '\' is accepted and means the same. Names
 // compare without regard to case: a path that does not exist as it is spelled is looked for folder by
@@ -31,6 +45,11 @@ public:
     // The time of the last change; invalid when the file does not exist.
     virtual QDateTime modified(const QString& path) const = 0;
 
+    virtual FileStamp stamp(const QString& path) const = 0;
+
+    // The file, opened for reading. Throws FileError.
+    virtual std::unique_ptr<QIODevice> open(const QString& path) const = 0;
+
     // The file's bytes, at most `limit` of them. Throws FileError.
     virtual QByteArray read(const QString& path, qint64 limit = maximumSize) const = 0;
 
@@ -42,14 +61,30 @@ public:
     // nobody. A crash may leave a part of it. Throws FileError.
     virtual void overwrite(const QString& path, const QByteArray& bytes) = 0;
 
-    // Copies a file whole, replacing `to`, under the same promise as `write`. Throws FileError.
+    // Copies a file whole, with its time of the last change, replacing `to`, under the same promise as
+    // `write`. Throws FileError.
     virtual void copy(const QString& from, const QString& to) = 0;
+
+    // Creates a file, or replaces one in place, of the pieces that `next` returns until one is empty, without
+    // waiting for the disk: for files in a folder that nobody uses yet. `modified`, if valid, becomes the
+    // time of its last change. A failure, also what `next` throws, leaves no such file. Throws FileError.
+    virtual void create(const QString& path, const std::function<QByteArray()>& next,
+                        const QDateTime& modified) = 0;
+
+    // Moves or renames a file or a folder, in one step. A file replaces a file; a folder, or a file in a
+    // folder's place, needs `to` to be free (FileError of the kind Exists). A name may change its case alone.
+    // Throws FileError; then everything is as it was.
+    virtual void move(const QString& from, const QString& to) = 0;
 
     // Deletes a file, also when it is read-only; one that does not exist is no failure. Throws FileError.
     virtual void remove(const QString& path) = 0;
 
     // Creates the folder and the folders above it; one that exists is no failure. Throws FileError.
     virtual void createFolder(const QString& path) = 0;
+
+    // Deletes a folder with all that is in it, also what is read-only; a link is deleted, not what it leads
+    // to. One that does not exist is no failure. Throws FileError; then some of it may be gone.
+    virtual void removeTree(const QString& path) = 0;
 
     // Deletes an empty folder; throws FileError, also when the folder holds something.
     virtual void removeFolder(const QString& path) = 0;

@@ -2,12 +2,12 @@
 
 #include "platform/FileSystem.h"
 
-// Another file system that forgets every change: what a dry run works on.
+// Another file system that forgets every change outside one scratch folder: what a dry run works on.
 class ReadOnlyFileSystem : public FileSystem
 {
 public:
-    // `disk` must outlive this object.
-    explicit ReadOnlyFileSystem(const FileSystem& disk) : m_disk(disk) {}
+    // `disk` must outlive this object; `scratch` ends in '/'.
+    ReadOnlyFileSystem(FileSystem& disk, const QString& scratch) : m_disk(disk), m_scratch(scratch) {}
 
     QString actualPath(const QString& path) const override { return m_disk.actualPath(path); }
     bool fileExists(const QString& path) const override { return m_disk.fileExists(path); }
@@ -15,14 +15,59 @@ public:
     QStringList files(const QString& folder) const override { return m_disk.files(folder); }
     QStringList folders(const QString& folder) const override { return m_disk.folders(folder); }
     QDateTime modified(const QString& path) const override { return m_disk.modified(path); }
+    FileStamp stamp(const QString& path) const override { return m_disk.stamp(path); }
+    std::unique_ptr<QIODevice> open(const QString& path) const override { return m_disk.open(path); }
     QByteArray read(const QString& path, qint64 limit) const override { return m_disk.read(path, limit); }
-    void write(const QString&, const QByteArray&) override {}
-    void overwrite(const QString&, const QByteArray&) override {}
-    void copy(const QString&, const QString&) override {}
-    void remove(const QString&) override {}
-    void createFolder(const QString&) override {}
-    void removeFolder(const QString&) override {}
+    void write(const QString& path, const QByteArray& bytes) override
+    {
+        if (isScratch(path))
+            m_disk.write(path, bytes);
+    }
+    void overwrite(const QString& path, const QByteArray& bytes) override
+    {
+        if (isScratch(path))
+            m_disk.overwrite(path, bytes);
+    }
+    void copy(const QString& from, const QString& to) override
+    {
+        if (isScratch(to))
+            m_disk.copy(from, to);
+    }
+    void create(const QString& path, const std::function<QByteArray()>& next,
+                const QDateTime& modified) override
+    {
+        if (isScratch(path))
+            m_disk.create(path, next, modified);
+    }
+    void move(const QString& from, const QString& to) override
+    {
+        if (isScratch(from) && isScratch(to))
+            m_disk.move(from, to);
+    }
+    void remove(const QString& path) override
+    {
+        if (isScratch(path))
+            m_disk.remove(path);
+    }
+    void createFolder(const QString& path) override
+    {
+        if (isScratch(path + u'/'))
+            m_disk.createFolder(path);
+    }
+    void removeTree(const QString& path) override
+    {
+        if (isScratch(path))
+            m_disk.removeTree(path);
+    }
+    void removeFolder(const QString& path) override
+    {
+        if (isScratch(path))
+            m_disk.removeFolder(path);
+    }
 
 private:
-    const FileSystem& m_disk;
+    bool isScratch(const QString& path) const { return path.startsWith(m_scratch); }
+
+    FileSystem& m_disk;
+    QString m_scratch;
 };

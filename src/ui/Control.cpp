@@ -2,6 +2,16 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
+
+namespace {
+
+bool comesBefore(const QString& a, const QString& b)
+{
+    return a.compare(b, Qt::CaseInsensitive) < 0;
+}
+
+} // namespace
 
 int TextBox::number() const
 {
@@ -38,37 +48,58 @@ void OptionButtons::click(int index)
         clicked(index);
 }
 
-void ListBox::add(const QString& entry)
+void ListBox::add(const ListEntry& entry)
 {
     qsizetype position = m_entries.size();
-    if (m_order == Order::Sorted) {
-        const auto after = std::upper_bound(
-            m_entries.cbegin(), m_entries.cend(), entry,
-            [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
-        position = after - m_entries.cbegin();
-    }
-    m_entries.insert(position, entry);
+    if (m_order == Order::Sorted)
+        position = std::ranges::upper_bound(std::as_const(m_entries), entry.text, comesBefore) -
+                   m_entries.cbegin();
+    m_entries.insert(position, entry.text);
+    m_names.insert(position, entry.name);
     if (m_selected >= position)
         ++m_selected;
+}
+
+void ListBox::setEntries(QList<ListEntry> entries)
+{
+    const auto inOrder = [](const ListEntry& a, const ListEntry& b) { return comesBefore(a.text, b.text); };
+    // Mostly they come in order: a folder's names do.
+    if (m_order == Order::Sorted && !std::ranges::is_sorted(entries, inOrder))
+        std::ranges::stable_sort(entries, inOrder);
+    clear();
+    m_entries.reserve(entries.size());
+    m_names.reserve(entries.size());
+    for (const ListEntry& entry : entries) {
+        m_entries << entry.text;
+        m_names << entry.name;
+    }
 }
 
 void ListBox::clear()
 {
     m_entries.clear();
+    m_names.clear();
     m_selected = -1;
 }
 
-void ListBox::removeLast()
+void ListBox::remove(int index)
 {
-    m_entries.removeLast();
-    m_selected = std::min(m_selected, count() - 1);
+    if (index < 0 || index >= count())
+        return;
+    m_entries.removeAt(index);
+    m_names.removeAt(index);
+    if (m_selected == index)
+        m_selected = -1;
+    else if (m_selected > index)
+        --m_selected;
 }
 
 int ListBox::find(const QString& name) const
 {
-    for (int i = 0; i < count(); ++i)
-        if (m_entries.at(i).compare(name, Qt::CaseInsensitive) == 0)
-            return i;
+    for (const QStringList& list : {m_names, m_entries})
+        for (int i = 0; i < count(); ++i)
+            if (list.at(i).compare(name, Qt::CaseInsensitive) == 0)
+                return i;
     return -1;
 }
 

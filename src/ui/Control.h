@@ -33,7 +33,19 @@ struct TextBox : Control
 {
     // The whole number that the text begins with, within 16 bits; 0 when it begins with none.
     int number() const;
+
+    std::function<void()> typed; // the player changed the text
 };
+
+// An entry of a task menu.
+struct MenuItem : Control
+{
+    bool isSeparator = false;
+    std::function<void()> clicked;
+};
+
+// A task menu: its entries from the top. They must outlive it.
+using Menu = std::vector<MenuItem*>;
 
 class CheckBox : public Control
 {
@@ -85,6 +97,13 @@ private:
     int m_selected;
 };
 
+// What a list shows, and the name on disk that it stands for: the two differ where a list shows capitals.
+struct ListEntry
+{
+    QString text;
+    QString name;
+};
+
 // A list box or a drop-down list, with at most one selected entry.
 class ListBox : public Control
 {
@@ -97,15 +116,26 @@ public:
     bool isEmpty() const { return m_entries.isEmpty(); }
     int count() const { return static_cast<int>(m_entries.size()); }
     QString entry(int index) const { return m_entries.value(index); }    // empty outside the list
+    QString name(int index) const { return m_names.value(index); }       // empty outside the list
     int selected() const { return m_selected; }                          // -1 when none is
     QString selectedText() const { return m_entries.value(m_selected); } // empty when none is
+    QString selectedName() const { return m_names.value(m_selected); }   // empty when none is
 
-    void add(const QString& entry);
-    void clear(); // also the selection; runs nothing
-    void removeLast();
+    void add(const QString& entry) { add({entry, entry}); }
+    void add(const ListEntry& entry);
+    void setEntries(QList<ListEntry> entries); // also clears the selection; runs nothing
+    void clear();                              // also the selection; runs nothing
+    void remove(int index);                    // runs nothing; nothing is selected when it was
 
-    // The first entry equal to `name` without regard to case; -1 when there is none.
+    // The first entry whose name, else whose text, equals `name` without regard to case; -1 when there is
+    // none.
     int find(const QString& name) const;
+
+    // Only the entries whose text contains the filter, without regard to case, are in sight. The others
+    // stay entries, and a selected one stays selected.
+    const QString& filter() const { return m_filter; }
+    void setFilter(const QString& filter) { m_filter = filter.trimmed(); }
+    bool isInSight(int index) const { return entry(index).contains(m_filter, Qt::CaseInsensitive); }
 
     // Selects an entry and runs `clicked`; the selected one, or an index outside the list, runs nothing.
     void select(int index);
@@ -123,11 +153,17 @@ public:
     // Selects the entry equal to `value`, or shows it as a text that no entry has.
     void setCurrentText(const QString& value);
 
-    std::function<void()> clicked; // the selection changed, by the user or by a rule
-    std::function<void()> chosen;  // the user clicked an entry, after `clicked`
+    std::function<void()> clicked;       // the selection changed, by the user or by a rule
+    std::function<void()> chosen;        // the user clicked an entry, after `clicked`
+    std::function<void()> doubleClicked; // the user double-clicked the selected entry, after `chosen`
+
+    // The task menu of the selected entry as it is now; null when it has none.
+    std::function<const Menu*()> taskMenu;
 
 private:
     QStringList m_entries;
+    QStringList m_names;
+    QString m_filter;
     int m_selected = -1;
     Order m_order;
 };

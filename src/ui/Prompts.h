@@ -2,6 +2,9 @@
 
 #include <QString>
 
+#include <memory>
+#include <optional>
+
 // The message-box styles, combined by addition, and the results.
 namespace Msg {
 constexpr int Ok = 0;
@@ -29,6 +32,24 @@ struct FileQuestion
     QString folder;  // where to start, with '/'
 };
 
+struct NameQuestion
+{
+    QString caption; // of the window
+    QString frame;   // of the frame around the name
+    QString button;  // its caption until something is typed: "OK", or "Cancel" where the name must change
+    QString name;    // to start with
+};
+
+// Something that takes a while is shown while this object lives.
+class Progress
+{
+public:
+    virtual ~Progress() = default;
+
+    // `done` of `total`, in any unit. False once the player has cancelled.
+    virtual bool advance(qint64 done, qint64 total) = 0;
+};
+
 // What the launcher asks the player. A window shows dialogs; a console program and the tests answer.
 class Prompts
 {
@@ -41,6 +62,15 @@ public:
 
     // The path of the existing file that the player chose, with '/'; empty when cancelled.
     virtual QString chooseFile(const FileQuestion& question) = 0;
+
+    // The name that the player typed; nothing when cancelled.
+    virtual std::optional<QString> askName(const NameQuestion& question) = 0;
+
+    // A password; empty when the player has none.
+    virtual QString askPassword(const QString& text) = 0;
+
+    // Says what is being done, with a way to cancel it.
+    virtual std::unique_ptr<Progress> showProgress(const QString& what) = 0;
 
     // Opens a file (path with '/') or a web address with the system's program for it. Returns false when
     // there is none.

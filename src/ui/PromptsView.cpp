@@ -93,6 +93,21 @@ QString PromptsView::chooseFile(const FileQuestion& question)
         QFileDialog::getOpenFileName(over ? over : m_mainWindow, question.title, question.folder, filter));
 }
 
+std::optional<QString> PromptsView::askName(const NameQuestion&)
+{
+    return std::nullopt;
+}
+
+QString PromptsView::askPassword(const QString&)
+{
+    return {};
+}
+
+std::unique_ptr<Progress> PromptsView::showProgress(const QString&)
+{
+    return nullptr;
+}
+
 bool PromptsView::openWithShell(const QString& target)
 {
     const bool isAddress = target.startsWith(u"http://"_s) || target.startsWith(u"https://"_s);

@@ -13,6 +13,9 @@ public:
 
     int MsgboxPos(const QString& text, int style, const QString& title) override;
     QString chooseFile(const FileQuestion& question) override;
+    std::optional<QString> askName(const NameQuestion& question) override;
+    QString askPassword(const QString& text) override;
+    std::unique_ptr<Progress> showProgress(const QString& what) override;
     bool openWithShell(const QString& target) override;
 
 private:

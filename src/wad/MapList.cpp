@@ -13,7 +13,7 @@ void mapClicked(Launcher& launcher)
     launcher.controls.SaveGameList.deselect();
     ListBox& maps = launcher.controls.MapList;
     if (maps.entry(maps.count() - 1).isEmpty())
-        maps.removeLast();
+        maps.remove(maps.count() - 1);
     UpdateWarp(launcher);
 }
 

@@ -2,7 +2,7 @@
 
 #include "platform/FileSystem.h"
 
-// Another file system whose changing calls (write, copy, remove, createFolder, removeFolder) can be made
+// Another file system whose changing calls (all but the const ones) can be made
 // to fail before they change anything: tests may run as root, where permissions stop nothing.
 class FailingFileSystem : public FileSystem
 {
@@ -35,6 +35,8 @@ public:
     QStringList files(const QString& folder) const override { return m_disk.files(folder); }
     QStringList folders(const QString& folder) const override { return m_disk.folders(folder); }
     QDateTime modified(const QString& path) const override { return m_disk.modified(path); }
+    FileStamp stamp(const QString& path) const override { return m_disk.stamp(path); }
+    std::unique_ptr<QIODevice> open(const QString& path) const override { return m_disk.open(path); }
     QByteArray read(const QString& path, qint64 limit) const override { return m_disk.read(path, limit); }
 
     void write(const QString& path, const QByteArray& bytes) override
@@ -52,6 +54,17 @@ public:
         count({to, from});
         m_disk.copy(from, to);
     }
+    void create(const QString& path, const std::function<QByteArray()>& next,
+                const QDateTime& modified) override
+    {
+        count({path});
+        m_disk.create(path, next, modified);
+    }
+    void move(const QString& from, const QString& to) override
+    {
+        count({to, from});
+        m_disk.move(from, to);
+    }
     void remove(const QString& path) override
     {
         count({path});
@@ -61,6 +74,11 @@ public:
     {
         count({path});
         m_disk.createFolder(path);
+    }
+    void removeTree(const QString& path) override
+    {
+        count({path});
+        m_disk.removeTree(path);
     }
     void removeFolder(const QString& path) override
     {

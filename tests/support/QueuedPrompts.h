@@ -11,15 +11,19 @@ class QueuedPrompts : public Prompts
 public:
     ~QueuedPrompts() override
     {
-        if (!m_answers.isEmpty() || !m_files.isEmpty())
-            qFatal("%lld expected questions were not asked",
-                   static_cast<long long>(m_answers.size() + m_files.size()));
+        const auto left = m_answers.size() + m_files.size() + m_names.size() + m_passwords.size();
+        if (left > 0)
+            qFatal("%lld expected questions were not asked", static_cast<long long>(left));
     }
 
     // The next message box is answered with `result`.
     void expectMessage(int result = Msg::ResultOk) { m_answers << result; }
     // The next file dialog is answered with `path`; empty cancels.
     void expectFile(const QString& path) { m_files << path; }
+
+    // The next name prompt is answered with `name`; nothing cancels.
+    void expectName(const std::optional<QString>& name) { m_names << name; }
+    void expectPassword(const QString& password) { m_passwords << password; }
 
     int MsgboxPos(const QString& text, int style, const QString& title) override
     {
@@ -39,6 +43,32 @@ public:
         return m_files.takeFirst();
     }
 
+    std::optional<QString> askName(const NameQuestion& question) override
+    {
+        nameQuestions << question;
+        if (m_names.isEmpty())
+            qFatal("unexpected name prompt: %s", qPrintable(question.caption));
+        return m_names.takeFirst();
+    }
+
+    QString askPassword(const QString& text) override
+    {
+        if (m_passwords.isEmpty())
+            qFatal("unexpected password prompt: %s", qPrintable(text));
+        return m_passwords.takeFirst();
+    }
+
+    std::unique_ptr<Progress> showProgress(const QString&) override
+    {
+        struct Steps : Progress
+        {
+            explicit Steps(int& left) : m_left(left) {}
+            bool advance(qint64, qint64) override { return m_left < 0 || m_left-- > 0; }
+            int& m_left;
+        };
+        return std::make_unique<Steps>(stepsUntilCancelled);
+    }
+
     bool openWithShell(const QString& target) override
     {
         opened << target;
@@ -49,9 +79,13 @@ public:
     QStringList texts, titles, opened;
     QList<int> styles;
     QList<FileQuestion> fileQuestions;
+    QList<NameQuestion> nameQuestions;
     bool canOpen = true;
+    int stepsUntilCancelled = -1; // how often a progress goes on before the player cancels; negative: never
 
 private:
     QList<int> m_answers;
     QStringList m_files;
+    QList<std::optional<QString>> m_names;
+    QStringList m_passwords;
 };

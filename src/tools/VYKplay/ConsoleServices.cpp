@@ -16,3 +16,18 @@ int ConsolePrompts::MsgboxPos(const QString& text, int style, const QString& tit
         return Msg::ResultOk;
     }
 }
+
+QString ConsolePrompts::askPassword(const QString& text)
+{
+    m_stream << text << ' ' << Qt::flush;
+    return m_input.readLine();
+}
+
+std::unique_ptr<Progress> ConsolePrompts::showProgress(const QString&)
+{
+    struct Silent : Progress // a terminal's player cancels by ending the program
+    {
+        bool advance(qint64, qint64) override { return true; }
+    };
+    return std::make_unique<Silent>();
+}

@@ -6,18 +6,23 @@
 
 #include <QTextStream>
 
-// Messages go to a stream; a question is answered with No and a file dialog with Cancel.
+// Messages go to a stream; a question is answered with No, a file dialog with Cancel and a name prompt with
+// the name it suggests. A password is read from another stream.
 class ConsolePrompts : public Prompts
 {
 public:
-    explicit ConsolePrompts(QTextStream& stream) : m_stream(stream) {}
+    ConsolePrompts(QTextStream& stream, QTextStream& input) : m_stream(stream), m_input(input) {}
 
     int MsgboxPos(const QString& text, int style, const QString& title) override;
     QString chooseFile(const FileQuestion&) override { return {}; }
+    std::optional<QString> askName(const NameQuestion& question) override { return question.name; }
+    QString askPassword(const QString& text) override;
+    std::unique_ptr<Progress> showProgress(const QString& what) override;
     bool openWithShell(const QString&) override { return false; }
 
 private:
     QTextStream& m_stream;
+    QTextStream& m_input;
 };
 
 // There is no window: the settings keep the position they have.

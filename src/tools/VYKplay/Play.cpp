@@ -156,10 +156,11 @@ int RunVYKplay(const Arguments& arguments, const QString& root, QTextStream& out
         return done;
     }
     DiskFileSystem disk;
-    ReadOnlyFileSystem readOnly(disk);
+    ReadOnlyFileSystem readOnly(disk, root + u"/VYKLaunch/Zips/"_s);
     SystemProcesses system(disk);
     PrintingProcesses printing(system, out);
-    ConsolePrompts prompts(err);
+    QTextStream input(stdin);
+    ConsolePrompts prompts(err, input);
     NoWindow window;
 
     // Only a real launch changes anything.
