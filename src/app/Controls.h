@@ -7,6 +7,7 @@
 // The main window itself. Layout units are device-independent pixels.
 struct WindowControl : Control
 {
+    std::function<void(const QStringList&)> filesDropped; // paths with '/'
     bool compact = false;      // default mode: without the command panel and its height
     bool saveGamesTall = true; // the boundary between the game files and the savegames
 };

@@ -4,13 +4,22 @@
 #include "app/Themes.h"
 #include "app/Toolbar.h"
 #include "app/WebLinks.h"
+#include "catalogue/ConvertGame.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/GameSelection.h"
+#include "catalogue/InstallArchive.h"
+#include "catalogue/InstallGame.h"
+#include "catalogue/RecordRemoval.h"
+#include "catalogue/RemoveGame.h"
+#include "catalogue/RenameGame.h"
 #include "catalogue/ScriptedMapMode.h"
+#include "catalogue/TaskMenus.h"
 #include "launch/LaunchButton.h"
 #include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
 #include "options/OptionTabs.h"
 #include "options/Skills.h"
+#include "savegames/DeleteSaveGames.h"
 #include "savegames/SaveGames.h"
 #include "wad/MapList.h"
 
@@ -22,15 +31,25 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
       window(host),
       paths(rootPath),
       environment(IwadEnvironment::ofProcess()),
+      shortcutFolders(ShortcutFolders::ofUser()),
       settings(DefaultSettings())
 {
     ConnectThemes(*this);
     ConnectWebLinks(*this);
     ConnectToolbar(*this);
     ConnectGameLists(*this);
+    ConnectGameSelection(*this);
+    ConnectTaskMenus(*this);
+    ConnectInstallation(*this);
+    ConnectArchiveInstallation(*this);
+    ConnectConversion(*this);
+    ConnectRenaming(*this);
+    ConnectRemoval(*this);
+    ConnectRecordRemoval(*this);
     ConnectScriptedMapMode(*this);
     ConnectMapList(*this);
     ConnectSaveGames(*this);
+    ConnectDeleteSaveGames(*this);
     ConnectSkills(*this);
     ConnectOptionTabs(*this);
     ConnectDisplayMode(*this);

@@ -11,7 +11,11 @@
 #include "options/ModelPacks.h"
 #include "platform/FileSystem.h"
 #include "platform/Processes.h"
+#include "shortcuts/DeleteShortcuts.h"
 #include "ui/Prompts.h"
+#include "wad/WadReport.h"
+
+#include <QHash>
 
 struct StartUpState
 {
@@ -39,11 +43,13 @@ struct Launcher
 
     InstallationPaths paths;
     IwadEnvironment environment;
+    ShortcutFolders shortcutFolders;
     StartUpState startUp;
     FontSetting font;
     Settings settings;
     Controls controls;
     IwadPaths iwads;
+    QHash<QString, WadReport> wadReports; // by path
     Selection selection;
     LaunchState launch;
     ModelPacks modelPacks;

@@ -4,6 +4,7 @@
 #include "app/SettingsLoad.h"
 #include "app/Themes.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/GameStaging.h"
 #include "catalogue/ScriptedMapMode.h"
 #include "options/DisplayMode.h"
 #include "options/PresenceChecks.h"
@@ -14,14 +15,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int zipLibrary = 2; // ListMode
-constexpr int doomGames = 1;
 constexpr int exitMode = 2; // LaunchMode
 
 void createOwnFolders(Launcher& launcher)
 {
     launcher.files.createFolder(launcher.paths.RootPath + u"/VYKGames"_s);
     launcher.files.createFolder(launcher.paths.LaunchPath + u"GameInfo"_s);
+}
+
+void recoverGames(Launcher& launcher)
+{
+    try {
+        RecoverGames(launcher.files, launcher.paths.GamesPath);
+    } catch (const FileError&) {
+        // What an installation that was cut off moved aside stays there until the next one.
+    }
 }
 
 void checkModelPacks(Launcher& launcher)
@@ -109,6 +117,7 @@ void LoadMainWindow(Launcher& launcher)
     if (!launcher.font.FontName.isEmpty())
         launcher.window.checkFont(launcher.font);
     createOwnFolders(launcher);
+    recoverGames(launcher);
     LoadSettings(launcher);
     if (launcher.startUp.ShuttingDown)
         return;

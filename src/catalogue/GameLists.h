@@ -2,12 +2,20 @@
 
 #include "app/Launcher.h"
 
-// The games list with its three views, and the list of the selected game's files.
+// The games list with its three views and its filter.
+
+constexpr int installedGames = 0; // Settings::ListMode
+constexpr int doomGames = 1;
+constexpr int zipLibrary = 2;
+
 void ConnectGameLists(Launcher& launcher);
 
-// Switches the games list to a view (0 installed games, 1 Doom games, 2 zip library) and selects the game
-// remembered for it, else the first; also the way to list a view again after the catalogue changed.
+// Switches the games list to a view and selects the game remembered for it, else the first; also the way
+// to list a view again after the catalogue changed.
 void OptionUdirClick(Launcher& launcher, int view);
+
+// Shows the installed games with `name` selected, whatever the filter hid.
+void ShowInstalledGame(Launcher& launcher, const QString& name);
 
 // PwadList's entries for a view, without regard to what is selected.
 void FillGamesList(Launcher& launcher, int view);
@@ -15,8 +23,9 @@ void FillInstalledGamesList(Launcher& launcher);
 void FillDoomGamesList(Launcher& launcher);
 void FillArchiveList(Launcher& launcher, const QString& folder);
 
-// Whether the installed game `name` loads its files itself (GwadSelected) or not (PwadSelected).
-void ClassifySelectedGame(Launcher& launcher, const QString& name);
+// How the list shows an installed game or a zip whose name on disk is `name`.
+QString ListedGameName(const Launcher& launcher, const QString& name);
+QString ListedArchiveName(const Launcher& launcher, const QString& name);
 
-// Whether the current selection can be launched.
-bool CanLaunchSelection(const Launcher& launcher);
+// The text over the list of a view.
+QString ListHeading(const Launcher& launcher, int view);

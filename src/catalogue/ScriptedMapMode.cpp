@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int installedGames = 0; // ListMode
-
 void toggle(Launcher& launcher)
 {
     Controls& controls = launcher.controls;

@@ -1,6 +1,17 @@
 #pragma once
 
+#include "platform/FileSystem.h"
+
 #include <QString>
+
+// The zip whose files lie extracted in the zip folder, and the state that both were in.
+struct OpenedArchive
+{
+    QString path;
+    FileStamp archive;
+    FileStamp folder;
+    bool operator==(const OpenedArchive&) const = default;
+};
 
 // What is selected in the games list and in the lists beside it. The names selected in each view are
 // settings; the list that is shown is Settings::ListMode.
@@ -20,6 +31,11 @@ struct Selection
     bool ArchiveSelected = false;
 
     QString SaveGameFolder; // of the selected game
+
+    QString LastInstallFolder; // of the file installed last
+
+    OpenedArchive opened;
+    bool passwordsDeclined = false; // the player has none: no zip asks for one again
 
     bool ignoreScriptedMapClick = false; // the next click on the scripted-map switch does nothing
 };

@@ -2,6 +2,7 @@
 
 #include "app/StartUp.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/GameSelection.h"
 #include "launch/ShellOpen.h"
 #include "platform/Paths.h"
 
@@ -10,8 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int doomGames = 1; // ListMode
 
 } // namespace
 

@@ -1,9 +1,27 @@
 #include "launch/LaunchButton.h"
 
+#include "catalogue/GameSelection.h"
 #include "launch/LaunchInstalledGame.h"
 #include "platform/Paths.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Another launcher may have put another zip's files into the zip folder since this one was selected.
+void reopenArchive(Launcher& launcher)
+{
+    const QString mainWad = launcher.selection.SelectedGameFile;
+    if (!launcher.selection.ArchiveSelected || mainWad.isEmpty() ||
+        launcher.files.stamp(mainWad) == launcher.wadReports.value(mainWad).stamp)
+        return;
+    ListBox& maps = launcher.controls.MapList;
+    const QString map = maps.selectedText();
+    SelectGameAgain(launcher);
+    maps.select(maps.find(map));
+}
+
+} // namespace
 
 void ConnectLaunchButton(Launcher& launcher)
 {
@@ -12,6 +30,7 @@ void ConnectLaunchButton(Launcher& launcher)
 
 LaunchResult LaunchSelectedGame(Launcher& launcher)
 {
+    reopenArchive(launcher);
     if (launcher.controls.MapList.entry(0).isEmpty()) {
         const QString tail = FileNameOf(launcher.selection.SelectedGameFile) + u" contains no levels.    "_s;
         launcher.prompts.MsgboxPos(u"The "_s + tail.toLower(), Msg::Ok + Msg::Information, u" Wad error"_s);

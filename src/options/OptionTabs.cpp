@@ -1,6 +1,6 @@
 #include "options/OptionTabs.h"
 
-#include "catalogue/GameLists.h"
+#include "catalogue/GameSelection.h"
 #include "options/PresenceChecks.h"
 
 namespace {

@@ -256,6 +256,22 @@ QStringList DiskFileSystem::folders(const QString& folder) const
     return SortedEntries(actualPath(folder), QDir::Dirs);
 }
 
+QStringList DiskFileSystem::foldersHolding(const QString& folder, const QStringList& names) const
+{
+    const QString path = actualPath(folder) + u'/';
+    QStringList found = folders(folder);
+    found.removeIf([&](const QString& name) {
+        // Spelled as expected, mostly: the folder is only searched when none is.
+        const QString inside = path + name + u'/';
+        const auto isFolder = [&](const QString& wanted) { return QFileInfo(inside + wanted).isDir(); };
+        const auto isFolderSpelledOtherwise = [&](const QString& wanted) {
+            return folderExists(inside + wanted);
+        };
+        return std::ranges::none_of(names, isFolder) && std::ranges::none_of(names, isFolderSpelledOtherwise);
+    });
+    return found;
+}
+
 QDateTime DiskFileSystem::modified(const QString& path) const
 {
     const Found found = Find(path);

@@ -11,6 +11,7 @@ public:
     bool folderExists(const QString& path) const override;
     QStringList files(const QString& folder) const override;
     QStringList folders(const QString& folder) const override;
+    QStringList foldersHolding(const QString& folder, const QStringList& names) const override;
     QDateTime modified(const QString& path) const override;
     FileStamp stamp(const QString& path) const override;
     std::unique_ptr<QIODevice> open(const QString& path) const override;

@@ -13,6 +13,8 @@ public:
     FileError(Kind kind, const QString& path, const QString& detail);
 
     Kind kind() const { return m_kind; }
+    // The player may not, or another program has it open: one message says both.
+    bool isDenied() const { return m_kind == Kind::PermissionDenied || m_kind == Kind::InUse; }
     const QString& path() const { return m_path; }
 
 private:

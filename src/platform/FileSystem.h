@@ -42,6 +42,9 @@ public:
     virtual QStringList files(const QString& folder) const = 0;
     virtual QStringList folders(const QString& folder) const = 0;
 
+    // Of the folders directly in `folder`, in the same order, those that hold a folder with one of the names.
+    virtual QStringList foldersHolding(const QString& folder, const QStringList& names) const = 0;
+
     // The time of the last change; invalid when the file does not exist.
     virtual QDateTime modified(const QString& path) const = 0;
 

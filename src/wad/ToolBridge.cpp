@@ -53,12 +53,23 @@ std::optional<QString> runTool(Launcher& launcher, const QString& operation, con
     return FromAnsi(captured.output);
 }
 
+// The report on a WAD; empty when there is none.
+QString wadReport(Launcher& launcher, const QString& path)
+{
+    const FileStamp stamp = launcher.files.stamp(path);
+    WadReport& known = launcher.wadReports[path];
+    if (known.text.isEmpty() || known.stamp != stamp) {
+        known = {stamp, runTool(launcher, checkWad, path).value_or(QString())};
+        keepReport(launcher, known.text);
+    }
+    return known.text;
+}
+
 } // namespace
 
 int CountWadMaps(Launcher& launcher, const QString& path)
 {
-    const QString report = runTool(launcher, checkWad, path).value_or(QString());
-    keepReport(launcher, report);
+    const QString report = wadReport(launcher, path);
     const QString count = report.mid(countPosition, 2);
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     const bool twoDigits = count.size() == 2 && isDigit(count.at(1));
@@ -69,10 +80,9 @@ int CountWadMaps(Launcher& launcher, const QString& path)
 
 void ListWadMaps(Launcher& launcher, const QString& path)
 {
-    const QString report = runTool(launcher, checkWad, path).value_or(QString());
+    const QString report = wadReport(launcher, path);
     if (report.isEmpty())
         return;
-    keepReport(launcher, report);
     ListBox& maps = launcher.controls.MapList;
     maps.clear();
     const QStringList fields = FieldsOf(report);

@@ -3,7 +3,8 @@
 #include "app/Launcher.h"
 
 // The game-file tool: the launcher opens no WAD and no savegame itself. A tool that cannot be started
-// gives a message and counts as an empty report.
+// gives a message and counts as an empty report. A WAD is
+// reported on once, and again only when its file has changed.
 
 // Orders WADs by their number of maps: 100 plus that number; 10 without a report.
 int CountWadMaps(Launcher& launcher, const QString& path);

@@ -2,9 +2,9 @@
 #include "catalogue/GameLists.h"
 
 #include "catalogue/GameRecords.h"
+#include "catalogue/ScriptedMapMode.h"
 #include "launch/LaunchButton.h"
 #include "savegames/SaveGames.h"
-#include "catalogue/ScriptedMapMode.h"
 #include "tests/support/CommercialGame.h"
 
 #include <QTest>
@@ -70,6 +70,7 @@ private Q_SLOTS:
         QVERIFY(!launcher.selection.DoomGameSelected && controls.LaunchButton.enabled);
         game.installation.add(u"VYKArchives/some.ZIP"_s);
         game.installation.add(u"VYKArchives/some.txt"_s);
+        game.prompts.expectMessage(); // an empty file is no zip
         OptionUdirClick(launcher, 2);
         QCOMPARE(controls.Auto[0].caption, u"ZIP LIBRARY"_s);
         QCOMPARE(controls.PwadList.entries(), QStringList{u"SOME"_s});
@@ -208,6 +209,87 @@ private Q_SLOTS:
         QVERIFY(game.processes.lastCommandLine().endsWith(u" -sk 3 -wp 31 "_s));
     }
 
+    // The task menus as they are for each kind of game, and the convert items in development mode only.
+    void taskMenus()
+    {
+        CommercialGame game;
+        Controls& controls = game.launcher.controls;
+        const auto shown = [](const Menu* menu) {
+            QStringList items;
+            for (const MenuItem* item : menu ? *menu : Menu())
+                if (item->visible && !item->isSeparator)
+                    items << (item->enabled ? item->caption : u"("_s + item->caption + u')');
+            return items;
+        };
+        QVERIFY(!controls.PwadList.taskMenu()); // a Doom game has no tasks
+        QVERIFY(!controls.SaveGameList.taskMenu());
+        game.addWad(u"VYKGames/Auto/Gwads/a.wad"_s, {u"MAP01"_s});
+        game.addWad(u"VYKGames/Hand/Pwads/h.wad"_s, {u"MAP01"_s});
+        game.addWad(u"VYKGames/iron tide/Pwads/irontide.wad"_s, {u"MAP01"_s});
+        OptionUdirClick(game.launcher, installedGames);
+        game.selectGame(u"HAND"_s);
+        QCOMPARE(shown(controls.PwadList.taskMenu()),
+                 (QStringList{u"Uninstall game from list"_s, u"Rename game in list"_s}));
+        QVERIFY(!controls.PwadShowlist.taskMenu());
+        controls.chkTesting.setTicked(true);
+        QCOMPARE(shown(controls.PwadList.taskMenu()).mid(2),
+                 (QStringList{u"(Convert Udir to Pwads)"_s, u"Convert  Udir to Gwads"_s}));
+        game.selectGame(u"AUTO"_s);
+        QCOMPARE(shown(controls.PwadList.taskMenu()).mid(2),
+                 (QStringList{u"Convert Udir to Pwads"_s, u"(Convert  Udir to Gwads)"_s}));
+        QVERIFY(!controls.PwadShowlist.taskMenu());
+        controls.PwadShowlist.click(0);
+        QCOMPARE(shown(controls.PwadShowlist.taskMenu()), QStringList{u"Delete file"_s});
+        game.selectGame(u"IRON TIDE"_s);
+        QCOMPARE(shown(controls.PwadList.taskMenu()), QStringList{u"Uninstall game from list"_s});
+    }
+
+    // A name whose capitals do not fold back is found again, and every file of a game is asked about once.
+    void namesAndReports()
+    {
+        CommercialGame game;
+        Launcher& launcher = game.launcher;
+        constexpr int wads = 50;
+        for (int i = 0; i < wads; ++i)
+            game.addWad(u"VYKGames/Stra\u00dfe/Pwads/w%1.wad"_s.arg(i), {u"MAP01"_s});
+        const auto runs = [&game] {
+            return std::ranges::count_if(game.processes.captures, [](const auto& call) {
+                return call.commandLine.contains(u"CHECKWAD"_s);
+            });
+        };
+        const auto before = runs();
+        launcher.settings.SelectedGame = u"Stra\u00dfe"_s;
+        OptionUdirClick(launcher, installedGames);
+        QCOMPARE(launcher.controls.PwadList.selectedText(), u"STRASSE"_s);
+        QCOMPARE(launcher.controls.PwadShowlist.count(), wads);
+        QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"w9.wad"_s);
+        QCOMPARE(runs() - before, wads);
+        game.selectGame(u"STRASSE"_s);
+        QCOMPARE(runs() - before, wads);
+        game.addWad(u"VYKGames/Stra\u00dfe/Pwads/w3.wad"_s, {u"MAP01"_s, u"MAP02"_s});
+        game.selectGame(u"STRASSE"_s);
+        QCOMPARE(runs() - before, wads + 1);
+        QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"w3.wad"_s);
+        LaunchSelectedGame(launcher);
+        QVERIFY(game.processes.lastCommandLine().contains(u"-udir \"Stra\u00dfe\" "_s));
+    }
+
+    void clearingWhatIsRemembered()
+    {
+        CommercialGame game(remembering(true, true));
+        Controls& controls = game.launcher.controls;
+        const QString info = u"VYKLaunch/GameInfo/"_s;
+        for (const QString& record : {u"Iwads/a.vykm"_s, u"Pwads/a.vykm"_s, u"Zips/a.vykm"_s,
+                                      u"Gwads/a.vykm"_s, u"Gwads/a.vykg"_s, u"Save/Gwads/a/b.vyks"_s})
+            game.installation.add(info + record);
+        controls.chkLaunchPrefs[0].setTicked(false);
+        QCOMPARE(game.installation.tree().filter(info),
+                 (QStringList{info + u"Gwads/a.vykg"_s, info + u"Save/Gwads/a/b.vyks"_s}));
+        QVERIFY(!game.launcher.settings.RememberLastMap);
+        controls.chkLaunchPrefs[1].setTicked(false);
+        QCOMPARE(game.installation.tree().filter(info), QStringList{info + u"Gwads/a.vykg"_s});
+    }
+
     void theScriptedMapSwitch()
     {
         CommercialGame game;
@@ -231,7 +313,7 @@ private Q_SLOTS:
         QCOMPARE(controls.PwadList.entries(), QStringList{u"IRON TIDE"_s});
         QCOMPARE(controls.Auto[0].caption, u"KELDRAX SCRIPTED MAP"_s);
         QVERIFY(controls.ChkCM.ticked() && controls.chkAutoSelect.ticked());
-        QCOMPARE(launcher.settings.SelectedGameAutoOn, u"IRON TIDE"_s);
+        QCOMPARE(launcher.settings.SelectedGameAutoOn, u"iron tide"_s);
         controls.Auto[0].clicked();
         QCOMPARE(controls.PwadList.selectedText(), u"PLAIN"_s);
 

@@ -34,6 +34,10 @@ public:
     bool folderExists(const QString& path) const override { return m_disk.folderExists(path); }
     QStringList files(const QString& folder) const override { return m_disk.files(folder); }
     QStringList folders(const QString& folder) const override { return m_disk.folders(folder); }
+    QStringList foldersHolding(const QString& folder, const QStringList& names) const override
+    {
+        return m_disk.foldersHolding(folder, names);
+    }
     QDateTime modified(const QString& path) const override { return m_disk.modified(path); }
     FileStamp stamp(const QString& path) const override { return m_disk.stamp(path); }
     std::unique_ptr<QIODevice> open(const QString& path) const override { return m_disk.open(path); }

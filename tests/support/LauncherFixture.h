@@ -21,6 +21,8 @@ public:
     {
         installation.makeComplete();
         launcher.environment = {};
+        launcher.shortcutFolders = {path(QStringLiteral("Desktop/Keldrax Shortcuts")),
+                                    path(QStringLiteral("Menu/Keldrax Shortcuts"))};
     }
 
     TemporaryInstallation installation;

@@ -30,6 +30,8 @@ public:
         texts << text;
         titles << title;
         styles << style;
+        if (m_answers.isEmpty() && allowMessages)
+            return Msg::ResultOk;
         if (m_answers.isEmpty())
             qFatal("unexpected message: %s / %s", qPrintable(title), qPrintable(text));
         return m_answers.takeFirst();
@@ -81,6 +83,7 @@ public:
     QList<FileQuestion> fileQuestions;
     QList<NameQuestion> nameQuestions;
     bool canOpen = true;
+    bool allowMessages = false;   // those that nobody expected are answered with OK
     int stepsUntilCancelled = -1; // how often a progress goes on before the player cancels; negative: never
 
 private:

@@ -33,9 +33,9 @@ Arguments ParseArguments(const QStringList& given)
 {
     const QCommandLineOption map(u"map"_s, {}, u"MAP"_s), save(u"save"_s, {}, u"SLOT"_s), newGame(u"new"_s),
         skill(u"skill"_s, {}, u"1-5"_s), dryRun(u"dry-run"_s), view(u"view"_s, {}, u"VIEW"_s),
-        root(u"root"_s, {}, u"DIR"_s), help(QStringList{u"h"_s, u"help"_s});
+        root(u"root"_s, {}, u"DIR"_s), gwad(u"gwad"_s), help(QStringList{u"h"_s, u"help"_s});
     QCommandLineParser parser;
-    parser.addOptions({map, save, newGame, skill, dryRun, view, root, help});
+    parser.addOptions({map, save, newGame, skill, dryRun, view, root, gwad, help});
     if (!parser.parse(QStringList{u"VYKplay"_s} + given))
         return wrong(parser.errorText());
     Arguments arguments;
@@ -44,7 +44,7 @@ Arguments ParseArguments(const QStringList& given)
 
     QStringList words = parser.positionalArguments();
     if (words.isEmpty())
-        return wrong(u"Say what to do: list, maps or play."_s);
+        return wrong(u"Say what to do: list, maps, play or install."_s);
     const QString command = words.takeFirst();
     arguments.root = parser.value(root);
     if (parser.isSet(view)) {
@@ -58,6 +58,15 @@ Arguments ParseArguments(const QStringList& given)
     if (command != u"play" && playOptions)
         return wrong(u"--map, --save, --new, --skill and --dry-run belong to play."_s);
 
+    if (command != u"install" && parser.isSet(gwad))
+        return wrong(u"--gwad belongs to install."_s);
+
+    if (command == u"install") {
+        arguments.command = Arguments::Command::Install;
+        arguments.files = words;
+        arguments.asGwad = parser.isSet(gwad);
+        return words.isEmpty() ? wrong(u"install takes one or more .wad or .zip files."_s) : arguments;
+    }
     if (command == u"list") {
         arguments.command = Arguments::Command::List;
         if (words.size() > 1)
@@ -94,7 +103,9 @@ QString UsageText()
     return u"VYKplay list [doom|installed|zips]\n"
            "VYKplay maps GAME\n"
            "VYKplay play GAME [--map MAP | --save SLOT | --new] [--skill 1-5] [--dry-run]\n"
+           "VYKplay install FILE... [--gwad]\n"
            "\n"
+           "  --gwad                      as a game that loads its files itself\n"
            "  --view doom|installed|zips  where to look for GAME (else the first that has it)\n"
            "  --root DIR                  the installation (else the one this program lies in)\n"
            "  --dry-run                   print the command line that would be started\n"

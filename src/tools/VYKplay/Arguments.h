@@ -7,7 +7,7 @@
 // What the console program was asked for.
 struct Arguments
 {
-    enum class Command { List, Maps, Play, Help };
+    enum class Command { List, Maps, Play, Install, Help };
 
     Command command = Command::Help;
     QString game;            // of Maps and Play
@@ -19,6 +19,10 @@ struct Arguments
     bool newGame = false;
     int skill = 0; // 1 to 5; 0 as the settings say
     bool dryRun = false;
+
+    // Of Install.
+    QStringList files;
+    bool asGwad = false;
 
     QString wrong; // what is wrong with the arguments; empty when nothing is
 };

@@ -4,6 +4,7 @@
 #include "app/SettingsLoad.h"
 #include "app/StartUp.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/InstallGame.h"
 #include "launch/LaunchButton.h"
 #include "options/PresenceChecks.h"
 #include "platform/DiskFileSystem.h"
@@ -13,6 +14,8 @@
 #include "platform/Text.h"
 #include "tools/VYKplay/ConsoleServices.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -20,10 +23,6 @@ namespace {
 constexpr int done = 0;
 constexpr int refused = 1;
 constexpr int wrongUsage = 2;
-
-constexpr int installedGames = 0;
-constexpr int doomGames = 1;
-constexpr int zipLibrary = 2;
 
 // The launcher's state as its window would have loaded it, except that nothing is selected.
 void load(Launcher& launcher, QTextStream& err)
@@ -62,7 +61,7 @@ bool selectGame(Launcher& launcher, const Arguments& arguments)
         QString& remembered = view == installedGames ? settings.SelectedGame
                               : view == doomGames    ? settings.SelectedDoomGame
                                                      : settings.SelectedArchive;
-        remembered = games.entry(index);
+        remembered = games.name(index);
         OptionUdirClick(launcher, view);
         return true;
     }
@@ -116,13 +115,31 @@ bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& er
 
 int play(Launcher& launcher, const Arguments& arguments, QTextStream& err)
 {
-    if (launcher.selection.ArchiveSelected) {
-        err << "The games of the zip library cannot be started yet." << Qt::endl;
-        return refused;
-    }
     if (!chooseStart(launcher, arguments, err))
         return refused;
     return LaunchSelectedGame(launcher) == LaunchResult::Started ? done : refused;
+}
+
+Installed installFile(Launcher& launcher, const QString& path, bool asGwad)
+{
+    if (!asGwad)
+        return InstallPwadGame(launcher, path);
+    return InstallGwadGame(launcher, path);
+}
+
+int install(Launcher& launcher, const Arguments& arguments, QTextStream& err)
+{
+    bool all = true;
+    for (const QString& file : arguments.files) {
+        const QString path = QFileInfo(file).absoluteFilePath();
+        const Installed installed = launcher.files.fileExists(path)
+                                        ? installFile(launcher, path, arguments.asGwad)
+                                        : Installed::NotAGame;
+        if (installed == Installed::NotAGame)
+            err << file << ": there is no such .wad or .zip file." << Qt::endl;
+        all = all && installed == Installed::Done;
+    }
+    return all ? done : refused;
 }
 
 int run(Launcher& launcher, const Arguments& arguments, QTextStream& out, QTextStream& err)
@@ -133,6 +150,8 @@ int run(Launcher& launcher, const Arguments& arguments, QTextStream& out, QTextS
         return refused;
     }
     load(launcher, err);
+    if (arguments.command == Arguments::Command::Install)
+        return install(launcher, arguments, err);
     if (arguments.command == Arguments::Command::List)
         return listGames(launcher, arguments, out);
     if (!selectGame(launcher, arguments)) {
@@ -163,10 +182,11 @@ int RunVYKplay(const Arguments& arguments, const QString& root, QTextStream& out
     ConsolePrompts prompts(err, input);
     NoWindow window;
 
-    // Only a real launch changes anything.
-    const bool starts = arguments.command == Arguments::Command::Play && !arguments.dryRun;
-    FileSystem& files = starts ? static_cast<FileSystem&>(disk) : readOnly;
-    Processes& processes = starts ? static_cast<Processes&>(system) : printing;
+    // Only an installation and a real launch change anything; for the rest a zip is extracted, no more.
+    const bool changes = arguments.command == Arguments::Command::Install ||
+                         (arguments.command == Arguments::Command::Play && !arguments.dryRun);
+    FileSystem& files = changes ? static_cast<FileSystem&>(disk) : readOnly;
+    Processes& processes = changes ? static_cast<Processes&>(system) : printing;
     Launcher launcher(files, processes, prompts, window, root);
     try {
         return run(launcher, arguments, out, err);

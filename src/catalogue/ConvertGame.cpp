@@ -1,0 +1,93 @@
+#include "catalogue/ConvertGame.h"
+
+#include "catalogue/GameSelection.h"
+#include "platform/Paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void reportFailure(Launcher& launcher, const FileError& error, const QString& denied)
+{
+    launcher.prompts.MsgboxPos(error.isDenied() ? denied : u"ERROR: Unknown error     "_s,
+                               Msg::Ok + Msg::Critical, u" Conversion error"_s);
+}
+
+// Gives a game's folder its other name, or moves what is in it into that folder when the game has both.
+void moveFiles(FileSystem& files, const QString& from, const QString& to)
+{
+    if (!files.folderExists(to)) {
+        files.move(from, to);
+        return;
+    }
+    for (const QString& name : files.files(from))
+        files.move(from + u'/' + name, to + u'/' + name);
+    files.removeTree(from);
+}
+
+void remove(FileSystem& files, const QString& folder, const QString& key, const QString& ending)
+{
+    files.remove(folder + key.toLower() + ending);
+}
+
+// Only with files of other kinds beside its WADs is a game unfit to be loaded by hand.
+bool mayConvertToPwad(Launcher& launcher)
+{
+    constexpr int unaskedEntries = 3;
+    const QStringList& shown = launcher.controls.PwadShowlist.entries();
+    qsizetype lastWad = shown.size();
+    while (lastWad > 0 && !EndsWith(shown.at(lastWad - 1), u".wad"_s))
+        --lastWad;
+    if (lastWad <= unaskedEntries)
+        return true;
+    return launcher.prompts.MsgboxPos(
+               u" Only relevant game files can be contained in an auto-loading structure,      \r\n"
+               " select Yes if you still wish to convert to auto-loading or No to abort.      "_s,
+               Msg::YesNo + Msg::Question, u" User Directory Conversion"_s) == Msg::ResultYes;
+}
+
+} // namespace
+
+void ConnectConversion(Launcher& launcher)
+{
+    launcher.controls.mcGwadConvert.clicked = [&launcher] { ConvertToGwad(launcher); };
+    launcher.controls.mcUdirConvert.clicked = [&launcher] { ConvertToPwad(launcher); };
+}
+
+void ConvertToGwad(Launcher& launcher)
+{
+    FileSystem& files = launcher.files;
+    const QString name = launcher.controls.PwadList.selectedName();
+    const QString game = launcher.paths.GamesPath + name;
+    if (name.isEmpty())
+        return;
+    try {
+        files.remove(game + u"/Pwads/"_s + BaseNameOf(launcher.selection.SelectedGameFile) + u".vykchk"_s);
+        moveFiles(files, game + u"/Pwads"_s, game + u"/Gwads"_s);
+        remove(files, launcher.paths.LaunchPath + u"GameInfo/Pwads/"_s, name, u".vykm"_s);
+    } catch (const FileError& error) {
+        reportFailure(launcher, error, u"Access denied: File or folder may be in use     "_s);
+    }
+    SelectGameAgain(launcher);
+}
+
+void ConvertToPwad(Launcher& launcher)
+{
+    FileSystem& files = launcher.files;
+    const QString name = launcher.controls.PwadList.selectedName();
+    const QString game = launcher.paths.GamesPath + name;
+    if (name.isEmpty())
+        return;
+    try {
+        files.remove(game + u"/Gwads/"_s + BaseNameOf(launcher.selection.SelectedGameFile) + u".vykchk"_s);
+        if (!mayConvertToPwad(launcher))
+            return;
+        moveFiles(files, game + u"/Gwads"_s, game + u"/Pwads"_s);
+        const QString records = launcher.paths.LaunchPath + u"GameInfo/Gwads/"_s;
+        remove(files, records, name, u".vykg"_s);
+        remove(files, records, name, u".vykm"_s);
+    } catch (const FileError& error) {
+        reportFailure(launcher, error, u"Read only error, file can't be overwritten     "_s);
+    }
+    SelectGameAgain(launcher);
+}

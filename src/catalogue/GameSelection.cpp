@@ -1,0 +1,169 @@
+#include "catalogue/GameSelection.h"
+
+#include "catalogue/GameLists.h"
+#include "catalogue/GameRecords.h"
+#include "catalogue/ScriptedMaps.h"
+#include "catalogue/ZipLibrary.h"
+#include "launch/ShellOpen.h"
+#include "platform/FileNames.h"
+#include "platform/Paths.h"
+#include "savegames/SaveGames.h"
+#include "wad/GameFiles.h"
+#include "wad/MainWad.h"
+#include "wad/MapList.h"
+#include "wad/ToolBridge.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Where the engine keeps the savegames of a WAD, or of a family; empty for a name that would lead elsewhere.
+QString savegameFolder(const Launcher& launcher, const QString& name)
+{
+    if (!IsUsableName(name))
+        return {};
+    return launcher.paths.RootPath + u"/UserSG/"_s + name + u"/savegame"_s;
+}
+
+void listFiles(Launcher& launcher, const QStringList& names)
+{
+    launcher.selection.SelectedGameFile.clear();
+    launcher.controls.PwadShowlist.clear();
+    for (const QString& name : names)
+        launcher.controls.PwadShowlist.add(name);
+}
+
+// Lists a game's files; none is chosen yet.
+void showGameFolder(Launcher& launcher, const QString& folder)
+{
+    launcher.selection.SelectedGameFolder = folder;
+    launcher.selection.SaveGameFolder.clear();
+    launcher.controls.MapList.clear();
+    launcher.controls.SaveGameList.clear();
+    listFiles(launcher, GameFilesOf(launcher.files, folder, launcher.settings.WadFilesOnly));
+}
+
+void doomGameClicked(Launcher& launcher, const QString& title)
+{
+    const std::optional<GameFamily> family = FamilyOfTitle(title);
+    if (!family)
+        return;
+    Selection& selection = launcher.selection;
+    const QString iwad = launcher.iwads.of(*family);
+    selection.DoomGameSelected = true;
+    launcher.controls.MainForm.saveGamesTall = true;
+    launcher.settings.SelectedDoomGame = title;
+    selection.SaveGameFolder = savegameFolder(launcher, QString::fromUtf16(RowOf(*family).key));
+    selection.SelectedWadPath = iwad;
+    selection.SelectedGameFolder = FolderOf(iwad) + u'/';
+    listFiles(launcher, {FileNameOf(iwad)});
+    launcher.controls.PwadShowlist.select(0);
+}
+
+void installedGameClicked(Launcher& launcher, const QString& name)
+{
+    constexpr int manyFiles = 5;
+    Selection& selection = launcher.selection;
+    ClassifySelectedGame(launcher, name);
+    const bool scripted =
+        selection.PwadSelected && IsScriptedMap(launcher.files, launcher.paths, name).isScriptedMap;
+    launcher.controls.Auto[0].caption =
+        scripted ? u"KELDRAX SCRIPTED MAP"_s : ListHeading(launcher, installedGames);
+    launcher.settings.SelectedGame = name;
+    (selection.GwadSelected ? selection.SelectedGwadGame : selection.SelectedPwadGame) = name;
+    const QString folder = launcher.files.actualPath(launcher.paths.GamesPath + name +
+                                                     (selection.GwadSelected ? u"/Gwads"_s : u"/Pwads"_s));
+    showGameFolder(launcher, folder + u'/');
+    launcher.controls.MainForm.saveGamesTall =
+        !selection.GwadSelected && launcher.controls.PwadShowlist.count() < manyFiles;
+    if (selection.GwadSelected)
+        RestoreGwadFile(launcher, name);
+    else
+        ChooseMainWad(launcher, selection.SelectedGameFolder);
+}
+
+void archiveClicked(Launcher& launcher, const QString& name)
+{
+    launcher.controls.MainForm.saveGamesTall = false;
+    launcher.settings.SelectedArchive = name;
+    OpenArchive(launcher, name); // one that cannot be opened has no files
+    showGameFolder(launcher, ZipFolder(launcher.paths));
+    ChooseMainWad(launcher, launcher.selection.SelectedGameFolder);
+}
+
+void gameClicked(Launcher& launcher)
+{
+    const QString name = launcher.controls.PwadList.selectedName();
+    if (name.isEmpty())
+        return;
+    if (launcher.controls.chkAutoSelect.ticked())
+        launcher.settings.SelectedGameAutoOn = name;
+    switch (launcher.settings.ListMode) {
+    case installedGames:
+        installedGameClicked(launcher, name);
+        break;
+    case doomGames:
+        doomGameClicked(launcher, name);
+        break;
+    default:
+        archiveClicked(launcher, name);
+        break;
+    }
+    RestoreLastSavegame(launcher);
+    launcher.controls.LaunchButton.enabled = CanLaunchSelection(launcher);
+}
+
+void gameFileClicked(Launcher& launcher)
+{
+    Selection& selection = launcher.selection;
+    selection.SelectedGameFile = selection.SelectedGameFolder + launcher.controls.PwadShowlist.selectedText();
+    if (!selection.DoomGameSelected)
+        selection.SaveGameFolder = savegameFolder(launcher, BaseNameOf(selection.SelectedGameFile));
+    ListWadMaps(launcher, selection.SelectedGameFile);
+    ListSaveGames(launcher);
+    if (launcher.launch.StartChoice != StartChoice::NewGame)
+        SelectStartMap(launcher);
+    launcher.controls.LaunchButton.enabled = CanLaunchSelection(launcher);
+}
+
+void gameFilePicked(Launcher& launcher)
+{
+    if (launcher.selection.GwadSelected && EndsWith(launcher.controls.PwadShowlist.selectedText(), u".wad"_s))
+        SaveGwadSelection(launcher, launcher.selection.SelectedGwadGame);
+}
+
+// What the engine calls its texts without an ending is opened as a text.
+void gameFileDoubleClicked(Launcher& launcher)
+{
+    const QString name = launcher.controls.PwadShowlist.selectedText();
+    if (!name.isEmpty())
+        ShellOpen(launcher.prompts, launcher.selection.SelectedGameFolder + name);
+}
+
+} // namespace
+
+void ConnectGameSelection(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    controls.PwadList.clicked = [&launcher] { gameClicked(launcher); };
+    controls.PwadShowlist.clicked = [&launcher] { gameFileClicked(launcher); };
+    controls.PwadShowlist.chosen = [&launcher] { gameFilePicked(launcher); };
+    controls.PwadShowlist.doubleClicked = [&launcher] { gameFileDoubleClicked(launcher); };
+}
+
+void SelectGameAgain(Launcher& launcher)
+{
+    launcher.controls.PwadList.clicked();
+}
+
+void ClassifySelectedGame(Launcher& launcher, const QString& name)
+{
+    launcher.selection.GwadSelected =
+        launcher.files.folderExists(launcher.paths.GamesPath + name + u"/Gwads"_s);
+    launcher.selection.PwadSelected = !launcher.selection.GwadSelected;
+}
+
+bool CanLaunchSelection(const Launcher& launcher)
+{
+    return launcher.controls.PwadShowlist.selected() >= 0 && launcher.controls.OptionTabs.selected() == 0;
+}

@@ -1,0 +1,203 @@
+#include "catalogue/GameStaging.h"
+
+#include "platform/Paths.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// In the work folder: what is built, the games and the single files that it replaces, and what was replaced
+// for good.
+const QString built = u"new/"_s;
+const QString replacedGames = u"games/"_s;
+const QString replacedFiles = u"files/"_s;
+const QString gone = u"gone/"_s;
+
+QString workFolder(const QString& gamesPath)
+{
+    return gamesPath + u".installing/"_s;
+}
+
+// Moves done so far, the last one last; undone in reverse.
+class Moves
+{
+public:
+    explicit Moves(FileSystem& files) : m_files(files) {}
+
+    void move(const QString& from, const QString& to)
+    {
+        m_files.move(from, to);
+        m_done.push_back({from, to});
+    }
+
+    // What cannot be moved back stays where it is for RecoverGames.
+    void undo()
+    {
+        for (; !m_done.empty(); m_done.pop_back()) {
+            try {
+                m_files.move(m_done.back().to, m_done.back().from);
+            } catch (const FileError&) {
+            }
+        }
+    }
+
+private:
+    struct Move
+    {
+        QString from, to;
+    };
+    FileSystem& m_files;
+    std::vector<Move> m_done;
+};
+
+void putBackGames(FileSystem& files, const QString& gamesPath, const QString& aside)
+{
+    for (const QString& game : files.folders(aside))
+        if (files.actualPath(gamesPath + game).isEmpty())
+            files.move(aside + game, gamesPath + game);
+}
+
+void putBackFiles(FileSystem& files, const QString& folder, const QString& aside)
+{
+    for (const QString& name : files.folders(aside))
+        putBackFiles(files, folder + name + u'/', aside + name + u'/');
+    for (const QString& name : files.files(aside))
+        if (files.folderExists(folder) && files.actualPath(folder + name).isEmpty())
+            files.move(aside + name, folder + name);
+}
+
+void recover(FileSystem& files, const QString& gamesPath)
+{
+    const QString work = workFolder(gamesPath);
+    if (!files.folderExists(work))
+        return;
+    putBackGames(files, gamesPath, work + replacedGames);
+    putBackFiles(files, gamesPath, work + replacedFiles);
+    files.removeTree(work);
+}
+
+QString lockPath(const QString& gamesPath)
+{
+    return gamesPath + u".installing.lock"_s;
+}
+
+QString existing(FileSystem& files, const QString& folder)
+{
+    files.createFolder(folder);
+    return files.actualPath(folder) + u'/';
+}
+
+} // namespace
+
+GameStaging::GameStaging(FileSystem& files, const QString& gamesPath)
+    : m_files(files),
+      m_games(existing(files, gamesPath)),
+      m_work(workFolder(m_games)),
+      m_lock(lockPath(m_games))
+{
+    m_lock.setStaleLockTime(0); // however long it takes
+    if (!m_lock.tryLock() && m_lock.error() == QLockFile::LockFailedError)
+        throw FileError(FileError::Kind::InUse, m_games, u"another launcher installs a game"_s);
+    recover(m_files, m_games);
+}
+
+GameStaging::~GameStaging()
+{
+    try {
+        recover(m_files, m_games);
+    } catch (const FileError&) {
+        // It is no game, and the next installation tries again.
+    }
+}
+
+void GameStaging::create(const QString& game, const QString& kind)
+{
+    m_game = game;
+    m_kind = kind;
+    m_files.createFolder(folder());
+}
+
+QString GameStaging::folder() const
+{
+    return m_work + built + m_game + u'/' + m_kind + u'/';
+}
+
+bool GameStaging::add(const QString& path, const std::function<bool(qint64)>& progress)
+{
+    constexpr qint64 pieceSize = 1024 * 1024;
+    const std::unique_ptr<QIODevice> source = m_files.open(path);
+    qint64 done = 0;
+    bool goOn = true;
+    const auto next = [&] {
+        QByteArray piece;
+        if (goOn)
+            piece = source->read(pieceSize);
+        if (goOn && piece.isEmpty() && !source->atEnd())
+            throw FileError(FileError::Kind::Other, path, source->errorString());
+        done += piece.size();
+        goOn = goOn && progress(done);
+        return goOn ? piece : QByteArray();
+    };
+    m_files.create(folder() + FileNameOf(path), next, m_files.modified(path));
+    return goOn;
+}
+
+void GameStaging::placeAsNewGame()
+{
+    m_files.move(m_work + built + m_game, m_games + m_game);
+}
+
+void GameStaging::placeAsReplacement()
+{
+    const QString game = FileNameOf(m_files.actualPath(m_games + m_game));
+    m_files.createFolder(m_work + replacedGames);
+    Moves moves(m_files);
+    try {
+        moves.move(m_games + game, m_work + replacedGames + game);
+        moves.move(m_work + built + m_game, m_games + m_game);
+        moves.move(m_work + replacedGames, m_work + gone);
+    } catch (const FileError&) {
+        moves.undo();
+        throw;
+    }
+}
+
+void GameStaging::placeInGame()
+{
+    const QString target = m_games + m_game + u'/' + m_kind;
+    if (m_files.folderExists(target))
+        addToFolder(target + u'/');
+    else
+        m_files.move(folder().chopped(1), target);
+}
+
+void GameStaging::addToFolder(const QString& target)
+{
+    const QString source = folder();
+    const QString game = FileNameOf(m_files.actualPath(m_games + m_game));
+    const QString aside = m_work + replacedFiles + game + u'/' + m_kind + u'/';
+    m_files.createFolder(aside);
+    Moves moves(m_files);
+    try {
+        for (const QString& name : m_files.files(source)) {
+            if (const QString old = m_files.actualPath(target + name); !old.isEmpty())
+                moves.move(old, aside + FileNameOf(old));
+            moves.move(source + name, target + name);
+        }
+        moves.move(m_work + replacedFiles, m_work + gone);
+    } catch (const FileError&) {
+        moves.undo();
+        throw;
+    }
+}
+
+void RecoverGames(FileSystem& files, const QString& gamesPath)
+{
+    const QString games = files.actualPath(gamesPath) + u'/';
+    if (!files.folderExists(workFolder(games)))
+        return;
+    QLockFile lock(lockPath(games));
+    lock.setStaleLockTime(0);
+    if (lock.tryLock())
+        recover(files, games);
+}

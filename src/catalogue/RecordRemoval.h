@@ -1,0 +1,18 @@
+#pragma once
+
+#include "app/Launcher.h"
+
+// Deleting the records that GameRecords writes.
+
+// The check boxes "Remember last map" and "Remember last savegame": clearing one deletes what it remembered.
+void ConnectRecordRemoval(Launcher& launcher);
+
+// The records of an installed game that is gone under this name, and of a zip. Each throws FileError.
+void DeleteRecordsOfGame(FileSystem& files, const InstallationPaths& paths, const QString& name, bool isGwad);
+void DeleteRecordsOfArchive(FileSystem& files, const InstallationPaths& paths, const QString& name);
+
+// The maps of all games; the files chosen in Gwad games stay. What cannot be deleted stays too.
+void ClearRememberedMaps(Launcher& launcher);
+
+// The savegames chosen in all games, not the savegames themselves.
+void ClearRememberedSavegames(Launcher& launcher);

@@ -1,0 +1,163 @@
+#include "catalogue/RemoveGame.h"
+
+#include "catalogue/GameLists.h"
+#include "catalogue/GameSelection.h"
+#include "catalogue/Leftovers.h"
+#include "catalogue/RecordRemoval.h"
+#include "catalogue/ZipLibrary.h"
+#include "platform/FileLock.h"
+#include "platform/FileNames.h"
+#include "platform/Paths.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString accessError = u" Access error"_s;
+
+bool confirmed(Launcher& launcher, const QString& text, const QString& title)
+{
+    return launcher.prompts.MsgboxPos(text, Msg::YesNo + Msg::Question, title) == Msg::ResultYes;
+}
+
+void reportAccessError(Launcher& launcher, const QString& text)
+{
+    launcher.prompts.MsgboxPos(text, Msg::Ok + Msg::Exclamation, accessError);
+}
+
+void reportPartlyRemoved(Launcher& launcher)
+{
+    reportAccessError(launcher, u"Unable to fully remove the selected item from the games list,       \r\n"
+                                "associated files or folders may be in use by another program."_s);
+}
+
+// The path of the entry chosen in the game files list; empty when none is.
+QString chosenListFile(const Launcher& launcher)
+{
+    const QString name = launcher.controls.PwadShowlist.selectedText();
+    return name.isEmpty() ? QString() : launcher.selection.SelectedGameFolder + name;
+}
+
+bool isInUse(Launcher& launcher, const QString& path, const QString& text)
+{
+    if (path.isEmpty() || !IsFileLocked(path))
+        return false;
+    reportAccessError(launcher, text);
+    return true;
+}
+
+// An installed game with this WAD has its savegames in the same folder.
+bool isWadOfInstalledGame(const Launcher& launcher, const QString& base)
+{
+    const QStringList kinds{u"Pwads"_s, u"Gwads"_s};
+    const QStringList games = launcher.files.foldersHolding(launcher.paths.GamesPath, kinds);
+    return std::ranges::any_of(games, [&](const QString& game) {
+        return std::ranges::any_of(kinds, [&](const QString& kind) {
+            return launcher.files.fileExists(launcher.paths.GamesPath + game + u'/' + kind + u'/' + base +
+                                             u".wad"_s);
+        });
+    });
+}
+
+void removeGame(Launcher& launcher, const QString& name, const QString& base)
+{
+    FileSystem& files = launcher.files;
+    Selection& selection = launcher.selection;
+    const QString game = launcher.paths.GamesPath + name;
+    const bool isGwad = selection.GwadSelected;
+    files.removeTree(game + (isGwad ? u"/Gwads"_s : u"/Pwads"_s));
+    files.removeTree(game);
+    if (!isGwad)
+        DeleteGameResources(files, launcher.paths, base);
+    DeleteRecordsOfGame(files, launcher.paths, name, isGwad);
+    selection.GwadSelected = selection.PwadSelected = false;
+    DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
+    DeleteShortcuts(files, launcher.shortcutFolders, name);
+}
+
+void removeArchive(Launcher& launcher, const QString& name, const QString& base)
+{
+    FileSystem& files = launcher.files;
+    files.remove(ArchivePath(launcher, name));
+    DeleteRecordsOfArchive(files, launcher.paths, name);
+    if (IsUsableName(base) && !isWadOfInstalledGame(launcher, base) &&
+        files.folderExists(launcher.paths.RootPath + u"/UserSG/"_s + base))
+        files.removeTree(launcher.paths.RootPath + u"/UserSG/"_s + base);
+}
+
+} // namespace
+
+void ConnectRemoval(Launcher& launcher)
+{
+    launcher.controls.mcDeleteFolder.clicked = [&launcher] { RemoveInstalledGame(launcher); };
+    launcher.controls.mcDeleteFile.clicked = [&launcher] { DeleteGameFile(launcher); };
+    launcher.controls.mcDeleteArchive.clicked = [&launcher] { DeleteArchive(launcher); };
+}
+
+void RemoveInstalledGame(Launcher& launcher)
+{
+    const QString name = launcher.controls.PwadList.selectedName();
+    const QString file = launcher.selection.SelectedGameFile;
+    if (name.isEmpty() ||
+        !confirmed(launcher, u" Are you certain you wish to remove this game from the list?      "_s,
+                   u" Remove selected game from list "_s) ||
+        isInUse(launcher, file,
+                u" Unable to remove the selected item from the games list,       \r\n"
+                "associated files or folders are in use by another program."_s))
+        return;
+    try {
+        removeGame(launcher, name, BaseNameOf(file));
+    } catch (const FileError&) {
+        reportPartlyRemoved(launcher);
+    }
+    OptionUdirClick(launcher, installedGames);
+}
+
+void DeleteGameFile(Launcher& launcher)
+{
+    FileSystem& files = launcher.files;
+    const QString ChosenListFile = chosenListFile(launcher);
+    const QString file = FileNameOf(ChosenListFile).toUpper();
+    const QString base = BaseNameOf(ChosenListFile);
+    const QString game = launcher.selection.SelectedGwadGame;
+    if (ChosenListFile.isEmpty() ||
+        !confirmed(launcher, u"Are you certain you wish to delete "_s + file + u"?       "_s,
+                   u" Delete selected file"_s) ||
+        isInUse(launcher, ChosenListFile,
+                u"Unable to delete the selected file, the file       \r\n"
+                "  appears to be in use by another program."_s))
+        return;
+    try {
+        files.remove(ChosenListFile);
+        DeleteShortcuts(files, launcher.shortcutFolders, game + u" - "_s + base);
+        files.remove(launcher.paths.LaunchPath + u"GameInfo/Save/Gwads/"_s + game.toLower() + u'/' +
+                     base.toLower() + u".vyks"_s);
+        DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
+    } catch (const FileError&) {
+        reportPartlyRemoved(launcher);
+    }
+    SelectGameAgain(launcher);
+}
+
+void DeleteArchive(Launcher& launcher)
+{
+    const QString name = launcher.controls.PwadList.selectedName();
+    if (name.isEmpty() ||
+        !confirmed(launcher, u"Are you certain you wish to delete this file?      "_s,
+                   u" Delete selected archive"_s) ||
+        isInUse(launcher, chosenListFile(launcher),
+                u"Unable to delete the selected file, the file       \r\n"
+                "  appears to be in use by another program."_s))
+        return;
+    try {
+        removeArchive(launcher, name, BaseNameOf(launcher.selection.SelectedGameFile));
+    } catch (const FileError&) {
+        reportAccessError(launcher, u"Unable to remove the selected item from this list,       \r\n"
+                                    "   the file may be in use by another program."_s);
+    }
+    launcher.controls.SaveGameList.clear();
+    launcher.selection.ArchiveSelected = false;
+    OptionUdirClick(launcher, zipLibrary);
+}

@@ -1,0 +1,160 @@
+#include "platform/Archive.h"
+
+#include "platform/FileNames.h"
+
+#include <QFile>
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <exception>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 largest = 4096 * mebibyte; // unpacked, all files together
+constexpr int mostMembers = 65536;
+// From this size on a game's files do not pack any better.
+constexpr qint64 ratioCounts = 64 * mebibyte;
+constexpr qint64 largestRatio = 300;
+
+// What ends an extraction early.
+struct Ended
+{
+    Extraction result;
+};
+
+class Reader
+{
+public:
+    Reader(FileSystem& files, const QString& path, const QString& folder, const ExtractionCalls& calls)
+        : m_files(files),
+          m_folder(folder.endsWith(u'/') ? folder : folder + u'/'),
+          m_calls(calls),
+          m_file(path)
+    {
+        if (!m_file.open(QIODevice::ReadOnly))
+            throw FileError(FileError::Kind::PermissionDenied, path, m_file.errorString());
+    }
+    ~Reader() { archive_read_free(m_archive); }
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+
+    void extract()
+    {
+        constexpr size_t blockSize = 256 * 1024;
+        // The directory at the file's end alone says what an archive holds: one that was cut off has none.
+        archive_read_support_format_zip_seekable(m_archive);
+        archive_read_set_passphrase_callback(m_archive, this, &Reader::passphrase);
+        goOn();
+        require(archive_read_open_fd(m_archive, m_file.handle(), blockSize));
+        archive_entry* entry = nullptr;
+        for (int members = 0;; ++members) {
+            const int result = archive_read_next_header(m_archive, &entry);
+            if (result == ARCHIVE_EOF)
+                return;
+            require(result);
+            if (members == mostMembers)
+                throw Ended{Extraction::TooLarge};
+            goOn();
+            extractMember(entry);
+        }
+    }
+
+private:
+    void extractMember(archive_entry* entry)
+    {
+        const char* rawName = archive_entry_pathname(entry);
+        const QString name = UsableNameOf(DecodedMemberName(rawName ? QByteArray(rawName) : QByteArray()));
+        const bool isFile = archive_entry_filetype(entry) == AE_IFREG && !archive_entry_hardlink(entry);
+        if (!isFile || name.isEmpty() || isFolderName(rawName))
+            return;
+        const QDateTime modified = archive_entry_mtime_is_set(entry)
+                                       ? QDateTime::fromSecsSinceEpoch(archive_entry_mtime(entry))
+                                       : QDateTime();
+        // What is there already may be a link: it is replaced, not written through.
+        if (!m_files.actualPath(m_folder + name).isEmpty())
+            m_files.remove(m_folder + name);
+        m_files.create(
+            m_folder + name, [this] { return nextPiece(); }, modified);
+    }
+
+    static bool isFolderName(const char* name) { return QByteArray(name).endsWith('/'); }
+
+    // The bytes stay libarchive's until the next call.
+    QByteArray nextPiece()
+    {
+        const void* bytes = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        for (;;) {
+            const int result = archive_read_data_block(m_archive, &bytes, &size, &offset);
+            if (result == ARCHIVE_EOF)
+                return {};
+            require(result);
+            if (size > 0)
+                break;
+        }
+        m_unpacked += static_cast<qint64>(size);
+        if (m_unpacked > largest || (m_unpacked > ratioCounts && m_unpacked / largestRatio > m_file.size()))
+            throw Ended{Extraction::TooLarge};
+        goOn();
+        return QByteArray::fromRawData(static_cast<const char*>(bytes), static_cast<qsizetype>(size));
+    }
+
+    void goOn()
+    {
+        if (m_thrown)
+            std::rethrow_exception(m_thrown);
+        if (!m_calls.progress(archive_filter_bytes(m_archive, -1), m_file.size()))
+            throw Ended{Extraction::Cancelled};
+    }
+
+    void require(int result)
+    {
+        if (m_thrown)
+            std::rethrow_exception(m_thrown);
+        if (result != ARCHIVE_OK && result != ARCHIVE_WARN)
+            throw Ended{Extraction::NotAZip};
+    }
+
+    // An exception must not pass through libarchive: it is thrown again behind it.
+    static const char* passphrase(archive*, void* data)
+    {
+        constexpr qsizetype longest = 256;
+        auto* reader = static_cast<Reader*>(data);
+        try {
+            reader->m_password = reader->m_calls.password().left(longest).toUtf8();
+        } catch (...) {
+            reader->m_thrown = std::current_exception();
+            return nullptr;
+        }
+        return reader->m_password.isEmpty() ? nullptr : reader->m_password.constData();
+    }
+
+    FileSystem& m_files;
+    QString m_folder;
+    const ExtractionCalls& m_calls;
+    QFile m_file;
+    archive* m_archive = archive_read_new();
+    QByteArray m_password;
+    std::exception_ptr m_thrown;
+    qint64 m_unpacked = 0;
+};
+
+} // namespace
+
+Extraction ExtractArchive(FileSystem& files, const QString& archive, const QString& folder,
+                          const ExtractionCalls& calls)
+{
+    const QString path = files.actualPath(archive);
+    if (path.isEmpty())
+        throw FileError(FileError::Kind::NotFound, archive, u"no such file"_s);
+    try {
+        Reader(files, path, folder, calls).extract();
+        return Extraction::Done;
+    } catch (const Ended& ended) {
+        return ended.result;
+    }
+}

@@ -1,0 +1,70 @@
+#include "savegames/DeleteSaveGames.h"
+
+#include "catalogue/GameSelection.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr size_t purgeButton = 0; // ButPurge
+
+void deleteAll(Launcher& launcher)
+{
+    FileSystem& files = launcher.files;
+    const InstallationPaths& paths = launcher.paths;
+    const QString saves = paths.RootPath + u"/UserSG/"_s;
+    for (const QString& folder : files.folders(saves))
+        files.removeTree(saves + folder);
+    for (const QString& game : files.foldersHolding(paths.GamesPath, {u"savegame"_s}))
+        files.removeTree(paths.GamesPath + game + u"/savegame"_s);
+    files.removeTree(paths.RootPath + u"/VYKanfiles"_s);
+    files.removeTree(paths.LaunchPath + u"GameInfo/Save"_s); // Gwads and Zip lie in it
+}
+
+void purgeClicked(Launcher& launcher)
+{
+    const QString question =
+        u"  This is a quick method of removing all previously saved games.        \r\n\r\n"
+        "                          Do you wish to continue?"_s;
+    if (launcher.prompts.MsgboxPos(question, Msg::YesNo + Msg::Question, u" Purge all savegames "_s) !=
+        Msg::ResultYes)
+        return;
+    PurgeSaveGames(launcher);
+    launcher.controls.SaveGameList.clear();
+}
+
+} // namespace
+
+void ConnectDeleteSaveGames(Launcher& launcher)
+{
+    launcher.controls.mcDelSaveGame.clicked = [&launcher] { DeleteSaveGame(launcher); };
+    launcher.controls.ButPurge[purgeButton].clicked = [&launcher] { purgeClicked(launcher); };
+}
+
+void DeleteSaveGame(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    const QString slot = controls.SaveGameList.selectedText().left(1);
+    if (slot.isEmpty() || launcher.prompts.MsgboxPos(
+                              u"Are you certain you wish to delete this savegame?     "_s,
+                              Msg::YesNo + Msg::Question, u" Delete selected savegame"_s) != Msg::ResultYes)
+        return;
+    try {
+        launcher.files.remove(launcher.selection.SaveGameFolder + u"/KeldraxSav"_s + slot + u".vyksg"_s);
+    } catch (const FileError&) {
+        return;
+    }
+    SelectGameAgain(launcher);
+    if (!controls.MapList.entry(0).isEmpty() && launcher.launch.StartChoice != StartChoice::NewGame)
+        controls.MapList.select(0);
+}
+
+void PurgeSaveGames(Launcher& launcher)
+{
+    try {
+        deleteAll(launcher);
+    } catch (const FileError&) {
+        launcher.prompts.MsgboxPos(u"Access denied - file or folder already in use.    "_s,
+                                   Msg::Ok + Msg::Exclamation, u" Access error "_s);
+    }
+}

@@ -1,0 +1,302 @@
+// Installing games: what is in the catalogue afterwards, also when a call fails or the player cancels.
+#include "catalogue/GameLists.h"
+#include "catalogue/GameStaging.h"
+#include "catalogue/InstallArchive.h"
+#include "catalogue/InstallGame.h"
+#include "tests/support/CommercialGame.h"
+#include "tests/support/ZipMaker.h"
+
+#include <QDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Two files to install, a zip library with one game, and an installed game of each kind.
+class Library : public CommercialGame
+{
+public:
+    Library()
+    {
+        addWad(u"Downloads/My Levels.WAD"_s, {u"MAP01"_s, u"MAP02"_s});
+        const QByteArray wad = TemporaryInstallation::wad("PWAD", {u"E1M1"_s, u"THINGS"_s});
+        const QByteArray zip = ZipMaker()
+                                   .add("Levels/Pack.wad", wad)
+                                   .add("Levels/Docs/read me.txt", "text")
+                                   .add("Levels/pack.DEH", "patch")
+                                   .bytes();
+        installation.add(u"Downloads/Pack.zip"_s, zip);
+        installation.add(u"VYKArchives/Pack.zip"_s, zip);
+        addWad(u"VYKGames/Hand/Pwads/hand.wad"_s, {u"MAP01"_s});
+        addWad(u"VYKGames/Auto/Gwads/auto.wad"_s, {u"MAP01"_s});
+        installation.add(u"VYKGames/Auto/Gwads/pack.deh"_s, "old patch");
+        installation.add(u"VYKGames/Auto/notes.txt"_s, "mine");
+        OptionUdirClick(launcher, installedGames);
+    }
+
+    Installed install(const QString& file) { return InstallPwadGame(launcher, path(file)); }
+
+    QMap<QString, QByteArray> games() const
+    {
+        QMap<QString, QByteArray> found;
+        for (const QString& file : installation.tree())
+            if (file.startsWith(u"VYKGames/"_s))
+                found[file.mid(9)] = installation.read(file);
+        return found;
+    }
+};
+
+const QStringList packFiles{u"Pack.wad"_s, u"pack.DEH"_s, u"read me.txt"_s};
+
+QStringList below(const QStringList& files, const QString& folder)
+{
+    QStringList found;
+    for (const QString& file : files)
+        if (file.startsWith(folder + u'/'))
+            found << file.mid(folder.size() + 1);
+    return found;
+}
+
+} // namespace
+
+class InstallGamesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fromTheDialog()
+    {
+        Library library;
+        Launcher& launcher = library.launcher;
+        launcher.controls.PwadList.setFilter(u"hand"_s);
+        library.prompts.expectFile(library.path(u"Downloads/My Levels.WAD"_s));
+        launcher.controls.AuxButton[0].clicked();
+        QCOMPARE(library.prompts.fileQuestions.last().pattern, u"*.zip;*.wad;"_s);
+        QCOMPARE(library.prompts.fileQuestions.last().folder, launcher.paths.ArchivesPath);
+        QCOMPARE(below(library.games().keys(), u"My Levels"_s), QStringList{u"Pwads/My Levels.WAD"_s});
+        QCOMPARE(launcher.controls.PwadList.selectedText(), u"MY LEVELS"_s);
+        QVERIFY(launcher.controls.PwadList.isInSight(launcher.controls.PwadList.selected()));
+        QCOMPARE(launcher.controls.MapList.entries(), (QStringList{u"MAP01"_s, u"MAP02"_s}));
+        QCOMPARE(LoadLastInstallFolder(launcher), library.path(u"Downloads"_s));
+        QVERIFY(library.hasConfig());
+
+        // The second time it is there already, and nothing changes.
+        const auto before = library.games();
+        library.installation.add(u"VYKLaunch/Data/pwads.vyk"_s, "/elsewhere\r\n");
+        library.prompts.expectFile(library.path(u"Downloads/My Levels.WAD"_s));
+        library.prompts.expectMessage();
+        InstallGameFromFile(launcher);
+        QCOMPARE(library.prompts.titles.last(), u" Duplicate name error"_s);
+        QCOMPARE(library.installation.read(u"VYKLaunch/Data/pwads.vyk"_s), "/elsewhere\r\n");
+
+        // Cancelling writes the folder anew; a file of another kind is left alone.
+        library.prompts.expectFile({});
+        InstallGameFromFile(launcher);
+        QCOMPARE(LoadLastInstallFolder(launcher), launcher.paths.ArchivesPath);
+        QCOMPARE(library.install(u"VYKGames/Auto/notes.txt"_s), Installed::NotAGame);
+        QVERIFY(library.games() == before);
+    }
+
+    void droppedFiles()
+    {
+        Library library;
+        const QStringList dropped{library.path(u"Downloads/My Levels.WAD"_s), library.path(u"notes.txt"_s),
+                                  library.path(u"Downloads/Pack.zip"_s)};
+        library.launcher.controls.MainForm.filesDropped(dropped);
+        QCOMPARE(below(library.games().keys(), u"Pack/Pwads"_s), packFiles);
+        QCOMPARE(library.launcher.controls.PwadList.selectedText(), u"PACK"_s);
+        QVERIFY(library.launcher.controls.PwadList.find(u"my levels"_s) >= 0);
+    }
+
+    void fromTheZipLibrary()
+    {
+        Library library;
+        Launcher& launcher = library.launcher;
+        OptionUdirClick(launcher, zipLibrary);
+        QCOMPARE(launcher.controls.PwadShowlist.entries(),
+                 (QStringList{u"pack.DEH"_s, u"Pack.wad"_s, u"read me.txt"_s}));
+        QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"Pack.wad"_s);
+        QCOMPARE(launcher.controls.MapList.entries(), QStringList{u"E1M1"_s});
+        QVERIFY(launcher.controls.LaunchButton.enabled);
+        library.prompts.expectName(u"Two"_s);
+        InstallArchiveAsPwad(launcher);
+        QCOMPARE(library.prompts.nameQuestions.last().name, u"Pack"_s);
+        QCOMPARE(below(library.games().keys(), u"Two/Pwads"_s), packFiles);
+        QCOMPARE(launcher.controls.PwadList.selectedText(), u"TWO"_s);
+
+        OptionUdirClick(launcher, zipLibrary);
+        library.prompts.expectName(u"HAND"_s);
+        library.prompts.expectMessage();
+        InstallArchiveAsPwad(launcher);
+        QCOMPARE(library.prompts.titles.last(), u" Duplicate name error"_s);
+
+        // Over an auto-loading game: only when the player agrees, and then the whole game goes.
+        const auto before = library.games();
+        library.prompts.expectName(u"auto"_s);
+        library.prompts.expectMessage(Msg::ResultNo);
+        InstallArchiveAsPwad(launcher);
+        QVERIFY(library.games() == before);
+        library.prompts.expectName(u"auto"_s);
+        library.prompts.expectMessage(Msg::ResultYes);
+        InstallArchiveAsPwad(launcher);
+        QCOMPARE(below(library.games().keys(), u"auto/Pwads"_s), packFiles);
+        QVERIFY(below(library.games().keys(), u"Auto"_s).isEmpty());
+
+        // As an auto-loading game: new, then into the existing one; never over one loaded by hand.
+        for (const QString& title : {u" User Directory Conversion"_s, u"User Directory Conversion"_s}) {
+            OptionUdirClick(launcher, zipLibrary);
+            library.prompts.expectName(u"Fresh"_s);
+            library.prompts.expectMessage();
+            InstallArchiveAsGwad(launcher);
+            QCOMPARE(library.prompts.titles.last(), title);
+            QCOMPARE(below(library.games().keys(), u"Fresh/Gwads"_s), packFiles);
+            QVERIFY(launcher.selection.GwadSelected);
+        }
+        OptionUdirClick(launcher, zipLibrary);
+        library.prompts.expectName(u"hand"_s);
+        library.prompts.expectMessage();
+        InstallArchiveAsGwad(launcher);
+        QCOMPARE(library.prompts.texts.last(),
+                 u" The hand folder already exists as an auto-loading User Directory     "_s);
+        for (const QString& name : {u"../x"_s, u"nul"_s, u" "_s}) {
+            library.prompts.expectName(name);
+            library.prompts.expectMessage();
+            InstallArchiveAsGwad(launcher);
+            QCOMPARE(library.prompts.texts.last(), u" Illegal naming convention detected.    "_s);
+        }
+    }
+
+    void intoAnAutoLoadingGame()
+    {
+        Library library;
+        OptionUdirClick(library.launcher, zipLibrary);
+        library.prompts.expectName(u"Auto"_s);
+        library.prompts.expectMessage();
+        InstallArchiveAsGwad(library.launcher);
+        const auto games = library.games();
+        QCOMPARE(games.value(u"Auto/Gwads/pack.DEH"_s), "patch");
+        QVERIFY(!games.contains(u"Auto/Gwads/pack.deh"_s));
+        QVERIFY(games.contains(u"Auto/Gwads/auto.wad"_s) && games.contains(u"Auto/notes.txt"_s));
+    }
+
+    void badZips()
+    {
+        Library library;
+        const auto before = library.games();
+        library.installation.add(u"Downloads/text.zip"_s, "no zip at all");
+        library.installation.add(u"VYKArchives/bad.zip"_s, "no zip at all");
+        library.prompts.expectMessage();
+        QCOMPARE(library.install(u"Downloads/text.zip"_s), Installed::Refused);
+        QCOMPARE(library.prompts.titles.last(), u" File error"_s);
+        library.prompts.expectMessage();
+        library.launcher.settings.SelectedArchive = u"bad"_s;
+        OptionUdirClick(library.launcher, zipLibrary);
+        QVERIFY(library.launcher.controls.PwadShowlist.isEmpty());
+        QVERIFY(!library.launcher.controls.LaunchButton.enabled);
+        // A zip that cannot be opened is no game to install.
+        library.prompts.expectMessage();
+        InstallArchiveAsPwad(library.launcher);
+        QVERIFY(library.games() == before);
+    }
+
+    // Once the player has no password, none is asked for again.
+    void passwords()
+    {
+        Library library;
+        library.installation.add(u"Downloads/locked.zip"_s, LockedZip("door.wad", "wad", "sesame"));
+        library.prompts.expectPassword(u"wrong"_s);
+        library.prompts.expectPassword(u"sesame"_s);
+        QCOMPARE(library.install(u"Downloads/locked.zip"_s), Installed::Done);
+        QCOMPARE(library.games().value(u"locked/Pwads/door.wad"_s), "wad");
+        library.installation.add(u"Downloads/other.zip"_s, LockedZip("door.wad", "wad", "sesame"));
+        library.prompts.expectPassword({});
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            library.prompts.expectMessage();
+            QCOMPARE(library.install(u"Downloads/other.zip"_s), Installed::Refused);
+        }
+    }
+
+    void failingCalls()
+    {
+        using Kind = FileError::Kind;
+        const QList<std::function<void(Library&)>> operations{
+            [](Library& library) { library.install(u"Downloads/My Levels.WAD"_s); },
+            [](Library& library) { library.install(u"Downloads/Pack.zip"_s); },
+            [](Library& library) {
+                library.prompts.expectName(u"Auto"_s);
+                InstallArchiveAsGwad(library.launcher);
+            },
+            [](Library& library) {
+                library.prompts.expectName(u"Auto"_s);
+                library.prompts.expectMessage(Msg::ResultYes);
+                InstallArchiveAsPwad(library.launcher);
+            },
+        };
+        const QStringList rows{u" Read only error, file can't be overwritten      "_s,
+                               u" Read only error, file can't be overwritten     "_s,
+                               u" Unknown error, Pwad can not be installed      "_s,
+                               u"ERROR: Unknown error     "_s, u" Unknown error     "_s};
+        for (qsizetype i = 0; i < operations.size(); ++i) {
+            for (const Kind kind : {Kind::InUse, Kind::Other}) {
+                int reported = 0;
+                for (int call = 1;; ++call) {
+                    Library library;
+                    OptionUdirClick(library.launcher, zipLibrary);
+                    const auto before = library.games();
+                    library.prompts.allowMessages = true;
+                    library.files.failAt(call, kind);
+                    operations.at(i)(library);
+                    const bool failed = library.files.calls() >= call;
+                    library.files.failAt(0, kind);
+                    if (!failed)
+                        break;
+                    const QString said =
+                        library.prompts.texts.isEmpty() ? QString() : library.prompts.texts.last();
+                    if (!rows.contains(said))
+                        continue; // a call that the operation can do without: it was done whole
+                    ++reported;
+                    RecoverGames(library.files, library.launcher.paths.GamesPath);
+                    QVERIFY2(library.games() == before, qPrintable(u"%1, call %2: %3"_s.arg(i).arg(call).arg(
+                                                            QStringList(library.games().keys()).join(u' '))));
+                }
+                QVERIFY(reported > 0);
+            }
+        }
+    }
+
+    void cancelling()
+    {
+        for (const QString& file : {u"Downloads/My Levels.WAD"_s, u"Downloads/Pack.zip"_s}) {
+            Library library;
+            const auto before = library.games();
+            library.prompts.stepsUntilCancelled = 0;
+            QCOMPARE(library.install(file), Installed::Refused);
+            QVERIFY(library.games() == before);
+            QVERIFY(!QDir(library.path(u"VYKGames/.installing"_s)).exists());
+        }
+    }
+
+    // What an installation that was cut off had moved aside comes back; what it had replaced for good goes.
+    void recovering()
+    {
+        Library library;
+        const auto before = library.games();
+        const QString work = u"VYKGames/.installing/"_s;
+        library.addWad(work + u"new/Half/Pwads/half.wad"_s, {u"MAP01"_s});
+        QDir(library.path(u"VYKGames"_s)).rename(u"Hand"_s, u".installing/hand"_s);
+        QDir(library.path(work)).mkdir(u"games"_s);
+        QDir(library.path(work)).rename(u"hand"_s, u"games/Hand"_s);
+        library.installation.add(work + u"games/Auto/Gwads/auto.wad"_s, "replaced");
+        library.installation.add(work + u"gone/Old/Pwads/old.wad"_s, "removed");
+        QDir(library.path(work)).mkpath(u"files/Auto/Gwads"_s);
+        QVERIFY(QFile::rename(library.path(u"VYKGames/Auto/Gwads/pack.deh"_s),
+                              library.path(work + u"files/Auto/Gwads/pack.deh"_s)));
+        RecoverGames(library.files, library.launcher.paths.GamesPath);
+        QVERIFY(library.games() == before);
+        QVERIFY(!library.installation.exists(work));
+    }
+};
+
+QTEST_GUILESS_MAIN(InstallGamesTest)
+#include "InstallGamesTest.moc"
