@@ -3,6 +3,7 @@
 #include "platform/FileNames.h"
 
 #include <QFile>
+#include <QSet>
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -36,6 +37,8 @@ public:
     {
         if (!m_file.open(QIODevice::ReadOnly))
             throw FileError(FileError::Kind::PermissionDenied, path, m_file.errorString());
+        for (const QString& name : m_files.files(m_folder))
+            m_present.insert(name.toCaseFolded());
     }
     ~Reader() { archive_read_free(m_archive); }
     Reader(const Reader&) = delete;
@@ -74,8 +77,9 @@ private:
                                        ? QDateTime::fromSecsSinceEpoch(archive_entry_mtime(entry))
                                        : QDateTime();
         // What is there already may be a link: it is replaced, not written through.
-        if (!m_files.actualPath(m_folder + name).isEmpty())
+        if (m_present.contains(name.toCaseFolded()))
             m_files.remove(m_folder + name);
+        m_present.insert(name.toCaseFolded());
         m_files.create(
             m_folder + name, [this] { return nextPiece(); }, modified);
     }
@@ -92,6 +96,8 @@ private:
             const int result = archive_read_data_block(m_archive, &bytes, &size, &offset);
             if (result == ARCHIVE_EOF)
                 return {};
+            if (result == ARCHIVE_WARN)
+                throw Ended{Extraction::NotAZip}; // the bytes are not those that were packed
             require(result);
             if (size > 0)
                 break;
@@ -115,7 +121,7 @@ private:
     {
         if (m_thrown)
             std::rethrow_exception(m_thrown);
-        if (result != ARCHIVE_OK && result != ARCHIVE_WARN)
+        if (result != ARCHIVE_OK && result != ARCHIVE_WARN) // a member's name may have warned
             throw Ended{Extraction::NotAZip};
     }
 
@@ -141,6 +147,7 @@ private:
     QByteArray m_password;
     std::exception_ptr m_thrown;
     qint64 m_unpacked = 0;
+    QSet<QString> m_present; // names in the folder
 };
 
 } // namespace
