@@ -334,6 +334,8 @@ void DiskFileSystem::create(const QString& path, const std::function<QByteArray(
                             const QDateTime& modified)
 {
     const QString target = FindTarget(path).path;
+    if (QFileInfo(target).isSymLink())
+        QFile::remove(target); // what it leads to is another file
     RequireWritable(target);
     QFile file(target);
     errno = 0;

@@ -6,27 +6,33 @@
 
 using namespace Qt::StringLiterals;
 
+QString MainWadOf(Launcher& launcher, const QString& folder)
+{
+    QStringList wads = GameFilesOf(launcher.files, folder, launcher.settings.WadFilesOnly);
+    wads.removeIf([](const QString& name) { return !EndsWith(name, u".wad"_s); });
+    if (wads.size() == 1)
+        return folder + wads.first();
+    QString mainWad;
+    int most = 0;
+    for (const QString& name : wads) // ascending: of equals the last stays
+        if (const int key = CountWadMaps(launcher, folder + name); key >= most) {
+            most = key;
+            mainWad = folder + name;
+        }
+    return mainWad;
+}
+
 void ChooseMainWad(Launcher& launcher, const QString& folder)
 {
     Selection& selection = launcher.selection;
     if (selection.GwadSelected)
         return;
-    QStringList wads = GameFilesOf(launcher.files, folder, launcher.settings.WadFilesOnly);
-    wads.removeIf([](const QString& name) { return !EndsWith(name, u".wad"_s); });
-
-    if (!wads.isEmpty())
-        selection.SelectedGameFile = folder + wads.last();
-    if (wads.size() > 1) {
-        int most = 0;
-        for (const QString& name : wads) // ascending: of equals the last stays
-            if (const int key = CountWadMaps(launcher, folder + name); key >= most) {
-                most = key;
-                selection.SelectedGameFile = folder + name;
-            }
-    }
+    const QString mainWad = MainWadOf(launcher, folder);
+    if (!mainWad.isEmpty())
+        selection.SelectedGameFile = mainWad;
 
     ListBox& shown = launcher.controls.PwadShowlist;
-    const int entry = wads.isEmpty() ? -1 : shown.find(FileNameOf(selection.SelectedGameFile));
+    const int entry = mainWad.isEmpty() ? -1 : shown.find(FileNameOf(mainWad));
     if (entry < 0)
         launcher.controls.LaunchButton.enabled = false;
     else

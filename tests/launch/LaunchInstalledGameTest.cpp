@@ -2,6 +2,7 @@
 #include "launch/LaunchButton.h"
 #include "platform/Text.h"
 #include "tests/support/CommercialGame.h"
+#include "tests/support/ZipMaker.h"
 
 #include <QtTest>
 
@@ -25,6 +26,16 @@ public:
         addWad(u"VYKGames/Auto Game/Gwads/second.wad"_s, {u"E2M1"_s});
         addWad(u"VYKGames/Auto Game/Gwads/empty.wad"_s, {});
         installation.add(u"VYKGames/Auto Game/Gwads/info.txt"_s, "read me");
+        addWad(u"VYKGames/Auto Game/Gwads/third.wad"_s, {u"MAP05"_s});
+        addWad(u"VYKGames/L\u00e4ufer 100% & Co/Pwads/z\u00fc rich.wad"_s, {u"MAP11"_s});
+        const QByteArray wad = TemporaryInstallation::wad("PWAD", {u"MAP01"_s, u"MAP02"_s});
+        installation.add(u"VYKArchives/Some Game.zip"_s,
+                         ZipMaker()
+                             .add({.name = "Pack \xc3\xa9.wad", .bytes = wad, .isUtf8 = true})
+                             .add("extra.wad", TemporaryInstallation::wad("PWAD", {u"TEXTURE1"_s}))
+                             .add("p.deh", "patch")
+                             .add("q.ded", "definition")
+                             .bytes());
         pickSkill(3);
         OptionUdirClick(launcher, 0);
     }
@@ -61,45 +72,79 @@ class LaunchInstalledGameTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aManualGameWithAKnownIwadNeedsItsFolderOnly()
+    // How each kind of game reaches the engine, with an IWAD that the engine finds itself and with another.
+    void wholeCommandLines()
+    {
+        const struct
+        {
+            const char* name;
+            std::function<void(InstalledGame&)> choose;
+            QString known, elsewhere, start;
+        } rows[] = {
+            {"by hand", [](InstalledGame& game) { game.selectGame(u"MANUAL"_s); }, u"-udir \"Manual\" "_s,
+             u"-udir \"Manual\" -f \"Main.wad\" \"small.wad\" \"textures.wad\" -deh \"a.deh\" \"b.DEH\" "
+             "-d \"%1/VYKGames/Manual/Pwads/d.ded\" "_s,
+             u"-wp 01 "_s},
+            {"by hand, odd name", [](InstalledGame& game) { game.selectGame(u"L\u00c4UFER 100% & CO"_s); },
+             u"-udir \"L\u00e4ufer 100% & Co\" "_s,
+             u"-udir \"L\u00e4ufer 100% & Co\" -f \"z\u00fc rich.wad\" "_s, u"-wp 11 "_s},
+            {"auto-loading",
+             [](InstalledGame& game) {
+                 game.selectGame(u"AUTO GAME"_s);
+                 game.pickFile(u"third.wad"_s);
+             },
+             u"-udir \"Auto Game\" -f \"third.wad\" "_s, u"-udir \"Auto Game\" -f \"third.wad\" "_s,
+             u"-wp 05 "_s},
+            {"zipped",
+             [](InstalledGame& game) {
+                 OptionUdirClick(game.launcher, 2);
+                 game.pickMap(u"MAP02"_s);
+             },
+             u"-f \"%1/VYKLaunch/Zips/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/extra.wad\" "
+             "-deh \"%1/VYKLaunch/Zips/p.deh\" -d \"%1/VYKLaunch/Zips/q.ded\" "_s,
+             u"-f \"%1/VYKLaunch/Zips/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/extra.wad\" "
+             "-deh \"%1/VYKLaunch/Zips/p.deh\" -d \"%1/VYKLaunch/Zips/q.ded\" "_s,
+             u"-wp 02 "_s},
+            {"in no game's folder",
+             [](InstalledGame& game) {
+                 game.selectGame(u"MANUAL"_s);
+                 game.launcher.selection.SelectedGameFile = game.path(u"Loose/x y.wad"_s);
+             },
+             u"-f \"%1/Loose/x y.wad\" "_s, u"-f \"%1/Loose/x y.wad\" "_s, u"-wp 01 "_s},
+        };
+        const QString options = u"-np -nht -3d -ch 128 -upm -ro -ct 9 -cmd \"rend-light 1\" \"rend-smoke 1\" "
+                                "\"audio-ricoh 4\" -sk 3 "_s;
+        for (const auto& row : rows) {
+            for (const bool known : {true, false}) {
+                InstalledGame game;
+                QString iwad = u"-Doom2 "_s;
+                if (!known) {
+                    game.addWad(u"Elsewhere/Doom2.wad"_s, {u"MAP01"_s});
+                    QVERIFY(QFile::remove(game.path(u"Iwads/Doom2.wad"_s)));
+                    game.launcher.iwads.of(GameFamily::Doom2) = game.path(u"Elsewhere/Doom2.wad"_s);
+                    iwad = u"-iwad \"%1/Elsewhere/Doom2.wad\" "_s;
+                }
+                row.choose(game);
+                const QString expected = QString(u"Bin\\Keldrax "_s + iwad +
+                                                 (known ? row.known : row.elsewhere) + options + row.start)
+                                             .replace(u"%1"_s, game.installation.root());
+                const QString line = game.launchedLine();
+                QVERIFY2(line == expected,
+                         qPrintable(QString::fromLatin1(row.name) + u'\n' + line + u'\n' + expected));
+                QCOMPARE(game.installation.read(u"VYKLaunch/launch.log"_s), ToAnsi(line + u"\r\n"_s));
+            }
+        }
+    }
+
+    // Another launcher has put another zip's files in their place: the zip is opened again.
+    void aZipIsOpenedAgain()
     {
         InstalledGame game;
-        game.selectGame(u"MANUAL"_s);
+        OptionUdirClick(game.launcher, 2);
         game.pickMap(u"MAP02"_s);
-        const QString line = game.launchedLine();
-        QVERIFY2(line.startsWith(u"Bin\\Keldrax -Doom2 -udir \"Manual\" -np "_s), qPrintable(line));
-        QVERIFY2(line.endsWith(u"-sk 3 -wp 02 "_s), qPrintable(line));
-        QCOMPARE(line.count(u'"'), 2 + 6); // the folder and three console commands
-        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Pwads/manual.vykm"_s), QByteArray("MAP02\r\n"));
-        QCOMPARE(game.installation.read(u"VYKLaunch/launch.log"_s), ToAnsi(line + u"\r\n"_s));
-    }
-
-    void aManualGameWithAnIwadElsewhereNeedsEveryFile()
-    {
-        InstalledGame game;
-        game.addWad(u"Elsewhere/Doom2.wad"_s, {u"MAP01"_s});
-        QVERIFY(QFile::remove(game.path(u"Iwads/Doom2.wad"_s)));
-        game.launcher.iwads.of(GameFamily::Doom2) = game.path(u"Elsewhere/Doom2.wad"_s);
-        game.selectGame(u"MANUAL"_s);
-        const QString line = game.launchedLine();
-        const QString expected = u"Bin\\Keldrax -iwad \"%1/Elsewhere/Doom2.wad\" -udir \"Manual\" "
-                                 "-f \"Main.wad\" \"small.wad\" \"textures.wad\" -deh \"a.deh\" \"b.DEH\" "
-                                 "-d \"%1/VYKGames/Manual/Pwads/d.ded\" -np "_s.arg(game.installation.root());
-        QVERIFY2(line.startsWith(expected), qPrintable(line + u'\n' + expected));
-    }
-
-    void anAutoLoadingGameNamesItsChosenFile()
-    {
-        InstalledGame game;
-        game.selectGame(u"AUTO GAME"_s);
-        QVERIFY(!game.launcher.controls.LaunchButton.enabled); // nothing is chosen yet
-        game.pickFile(u"first.wad"_s);
-        QVERIFY(game.launcher.controls.LaunchButton.enabled);
-        game.pickMap(u"E1M2"_s);
-        const QString line = game.launchedLine();
-        QVERIFY2(line.startsWith(u"Bin\\Keldrax -Doom -udir \"Auto Game\" -f \"first.wad\" -np "_s),
-                 qPrintable(line));
-        QVERIFY(line.endsWith(u"-wp 1 2 "_s));
+        QVERIFY(QFile::remove(game.path(u"VYKLaunch/Zips/Pack \u00e9.wad"_s)));
+        QVERIFY(game.launchedLine().endsWith(u"-wp 02 "_s));
+        QVERIFY(game.installation.exists(u"VYKLaunch/Zips/Pack \u00e9.wad"_s));
     }
 
     void anAutoLoadingGameRemembersFileAndMap()

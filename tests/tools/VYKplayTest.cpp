@@ -1,4 +1,5 @@
 #include "tests/support/TemporaryInstallation.h"
+#include "tests/support/ZipMaker.h"
 #include "tools/VYKplay/Play.h"
 
 #include <QProcess>
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void listsAndMaps();
     void aDryRunPrintsTheLineAndChangesNothing();
     void playStartsTheEngineAndRemembersTheMap();
+    void zipsAreExtractedAndPlayed();
+    void installs();
     void refusalsAreOneWithAMessage_data();
     void refusalsAreOneWithAMessage();
     void aDamagedConfigIsLeftAlone();
@@ -48,7 +51,9 @@ void VYKplayTest::init()
     m_installation->add(u"Data/Doom2.wad"_s, TemporaryInstallation::wad("IWAD", {u"MAP01"_s, u"MAP07"_s}));
     m_installation->add(u"VYKGames/Läufer 100%/Pwads/run.wad"_s,
                         TemporaryInstallation::wad("PWAD", {u"MAP03"_s}));
-    m_installation->add(u"VYKArchives/Some.ZIP"_s);
+    m_installation->add(
+        u"VYKArchives/Some.ZIP"_s,
+        ZipMaker().add("in/some.wad", TemporaryInstallation::wad("PWAD", {u"MAP08"_s})).bytes());
     m_installation->add(u"UserSG/doom2/savegame/KeldraxSav5.vyksg"_s,
                         QByteArray("Old friend").leftJustified(40, 0));
 }
@@ -83,6 +88,8 @@ void VYKplayTest::wrongUsageIsTwo_data()
                                  "play a --skill x",
                                  "play a --new --skill 3",
                                  "maps a --dry-run",
+                                 "install",
+                                 "list --gwad",
                                  "play a --view attic",
                                  "list --nonsense",
                                  "play a --map"};
@@ -141,6 +148,32 @@ void VYKplayTest::playStartsTheEngineAndRemembersTheMap()
              dry);
     QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP07\r\n"));
     QVERIFY(!m_installation->exists(u"VYKLaunch/config.vyk"_s));
+}
+
+void VYKplayTest::zipsAreExtractedAndPlayed()
+{
+    const QStringList before = m_installation->tree();
+    QCOMPARE(run({u"maps"_s, u"some"_s}).out, u"MAP08\n"_s);
+    const QString line = run({u"play"_s, u"some"_s, u"--map"_s, u"map08"_s, u"--dry-run"_s}).out;
+    QVERIFY2(line.contains(u" -f \"%1/VYKLaunch/Zips/some.wad\" "_s.arg(m_installation->root())),
+             qPrintable(line));
+    QStringList extracted = m_installation->tree();
+    QVERIFY(extracted.removeOne(u"VYKLaunch/Zips/some.wad"_s));
+    QCOMPARE(extracted, before);
+}
+
+void VYKplayTest::installs()
+{
+    const QString zip = m_installation->path(u"VYKArchives/Some.ZIP"_s);
+    QCOMPARE(run({u"install"_s, zip}).status, 0);
+    QVERIFY(m_installation->exists(u"VYKGames/Some/Pwads/some.wad"_s));
+    const Result again = run({u"install"_s, zip, u"nothing.wad"_s});
+    QCOMPARE(again.status, 1);
+    QVERIFY(again.err.contains(u"Duplicate name error"_s) && again.err.contains(u"nothing.wad"_s));
+    m_installation->add(u"more.wad"_s, TemporaryInstallation::wad("PWAD", {u"E1M4"_s}));
+    QCOMPARE(run({u"install"_s, m_installation->path(u"more.wad"_s), u"--gwad"_s}).status, 0);
+    QVERIFY(m_installation->exists(u"VYKGames/more/Gwads/more.wad"_s));
+    QCOMPARE(run({u"maps"_s, u"More"_s}).out, u"E1M4\n"_s); // its only WAD is chosen
 }
 
 void VYKplayTest::refusalsAreOneWithAMessage_data()

@@ -13,6 +13,7 @@
 #include "platform/SystemProcesses.h"
 #include "platform/Text.h"
 #include "tools/VYKplay/ConsoleServices.h"
+#include "wad/MainWad.h"
 
 #include <QFileInfo>
 
@@ -48,6 +49,14 @@ QList<int> viewsOf(const Arguments& arguments)
     return arguments.view ? QList<int>{*arguments.view} : QList<int>{doomGames, installedGames, zipLibrary};
 }
 
+// A game that loads its files itself has none chosen until the player chooses one: take its main WAD.
+void chooseFile(Launcher& launcher)
+{
+    ListBox& files = launcher.controls.PwadShowlist;
+    if (launcher.selection.GwadSelected && files.selected() < 0)
+        files.select(files.find(FileNameOf(MainWadOf(launcher, launcher.selection.SelectedGameFolder))));
+}
+
 // Selects the game in the first view that has it.
 bool selectGame(Launcher& launcher, const Arguments& arguments)
 {
@@ -63,6 +72,7 @@ bool selectGame(Launcher& launcher, const Arguments& arguments)
                                                      : settings.SelectedArchive;
         remembered = games.name(index);
         OptionUdirClick(launcher, view);
+        chooseFile(launcher);
         return true;
     }
     return false;
