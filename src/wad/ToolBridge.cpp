@@ -53,14 +53,17 @@ std::optional<QString> runTool(Launcher& launcher, const QString& operation, con
     return FromAnsi(captured.output);
 }
 
+enum class EmptyReport { Kept, Dropped };
+
 // The report on a WAD; empty when there is none.
-QString wadReport(Launcher& launcher, const QString& path)
+QString wadReport(Launcher& launcher, const QString& path, EmptyReport empty)
 {
     const FileStamp stamp = launcher.files.stamp(path);
     WadReport& known = launcher.wadReports[path];
     if (known.text.isEmpty() || known.stamp != stamp) {
         known = {stamp, runTool(launcher, checkWad, path).value_or(QString())};
-        keepReport(launcher, known.text);
+        if (!known.text.isEmpty() || empty == EmptyReport::Kept)
+            keepReport(launcher, known.text);
     }
     return known.text;
 }
@@ -69,7 +72,7 @@ QString wadReport(Launcher& launcher, const QString& path)
 
 int CountWadMaps(Launcher& launcher, const QString& path)
 {
-    const QString report = wadReport(launcher, path);
+    const QString report = wadReport(launcher, path, EmptyReport::Kept);
     const QString count = report.mid(countPosition, 2);
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     const bool twoDigits = count.size() == 2 && isDigit(count.at(1));
@@ -80,7 +83,7 @@ int CountWadMaps(Launcher& launcher, const QString& path)
 
 void ListWadMaps(Launcher& launcher, const QString& path)
 {
-    const QString report = wadReport(launcher, path);
+    const QString report = wadReport(launcher, path, EmptyReport::Dropped);
     if (report.isEmpty())
         return;
     ListBox& maps = launcher.controls.MapList;
