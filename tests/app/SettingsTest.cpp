@@ -1,5 +1,6 @@
 #include "app/SettingsControls.h"
 #include "app/SettingsLoad.h"
+#include "app/SettingsTable.h"
 #include "app/StartUp.h"
 #include "tests/support/LauncherFixture.h"
 
@@ -31,64 +32,6 @@ QList<int> changedLines(const QStringList& before, const QStringList& after)
         if (before.at(i) != after.value(i))
             changed << i + 1;
     return changed;
-}
-
-using Boxes = QList<std::pair<int, CheckBox*>>;
-
-// The check boxes by the line that stores them; "No monsters" has two lines and is not here, " Enable
-// ricochets" is stored by its handler.
-Boxes storedBoxes(Controls& c)
-{
-    return {{7, &c.chkGraphics[4]},
-            {8, &c.chkAltModels[2]},
-            {9, &c.ChkModelOpts[2]},
-            {10, &c.chkAltModels[1]},
-            {11, &c.ChkModelOpts[3]},
-            {12, &c.ChkModelOpts[1]},
-            {13, &c.ChkGL},
-            {14, &c.chkTesting},
-            {15, &c.chkSound[0]},
-            {16, &c.chkSound[1]},
-            {18, &c.chkVYKOpts[0]},
-            {19, &c.chkVYKOpts[8]},
-            {20, &c.chkVYKOpts[6]},
-            {21, &c.chkVYKOpts[7]},
-            {24, &c.chkLaunchPrefs[0]},
-            {25, &c.chkLaunchPrefs[1]},
-            {26, &c.chkAltModels[3]},
-            {27, &c.chkAltModels[0]},
-            {28, &c.chkMain[1]},
-            {30, &c.chkMain[7]},
-            {31, &c.chkGraphics[3]},
-            {32, &c.GunSmoke},
-            {35, &c.chkVYKOpts[2]},
-            {36, &c.chkSound[6]},
-            {37, &c.chkSound[4]},
-            {38, &c.chkSound[9]},
-            {39, &c.chkSound[10]},
-            {40, &c.chkVYKOpts[3]},
-            {41, &c.chkGraphics[2]},
-            {42, &c.chkEffects[1]},
-            {43, &c.chkVYKOpts[5]},
-            {44, &c.chkMain[0]},
-            {45, &c.ChkCM},
-            {47, &c.chkMain[2]},
-            {48, &c.chkMain[5]},
-            {49, &c.chkMain[3]},
-            {50, &c.chkMain[4]},
-            {51, &c.chkVYKOpts[1]},
-            {61, &c.chkLaunchPrefs[2]},
-            {62, &c.chkLaunchPrefs[5]},
-            {63, &c.chkLaunchPrefs[4]},
-            {64, &c.chkLaunchPrefs[3]},
-            {65, &c.chkEffects[0]},
-            {66, &c.chkEffects[3]},
-            {67, &c.chkSound[5]},
-            {68, &c.chkSound[7]},
-            {69, &c.chkAutoSelect},
-            {77, &c.chkEffects[2]},
-            {78, &c.chkSound[3]},
-            {79, &c.chkSound[8]}};
 }
 
 } // namespace
@@ -300,30 +243,35 @@ private Q_SLOTS:
         }
     }
 
+    // Every check box is stored in a line of its own, but for "No monsters" with its two.
     void boxesAndLines()
     {
         Controls controls;
         Settings settings = DefaultSettings();
         ApplySettingsToControls(settings, controls);
-        ReadControlsToSettings(settings, controls);
-        const QStringList before = SettingsLines(settings, false);
-        QCOMPARE(before, defaultLines());
-        for (const auto& [line, box] : storedBoxes(controls)) {
-            box->setValue(1 - box->value());
+        QSet<const CheckBox*> seen;
+        for (const SettingRow& row : SettingsTable()) {
+            const auto* mirror = std::get_if<CheckMirror>(&row.mirror);
+            if (!mirror || row.line == 29)
+                continue;
+            CheckBox& box = mirror->box(controls);
+            QVERIFY2(!seen.contains(&box), qPrintable(box.caption));
+            seen << &box;
+            const QStringList before = SettingsLines(settings, false);
+            box.setValue(1 - box.value());
             ReadControlsToSettings(settings, controls);
             const QStringList after = SettingsLines(settings, false);
-            QCOMPARE(changedLines(before, after), {line});
-
-            box->setValue(2); // greyed is not ticked
-            ReadControlsToSettings(settings, controls);
-            QCOMPARE(SettingsLines(settings, false).at(line - 1), u" 0 "_s);
-
-            for (const QStringList& lines : {after, before}) {
+            QCOMPARE(changedLines(before, after), row.line == 46 ? QList({29, 46}) : QList({row.line}));
+            for (const QStringList& lines : {before, after}) {
                 ReadSettings(settings, lines, false);
                 ApplySettingsToControls(settings, controls);
-                QCOMPARE(box->ticked(), lines.at(line - 1) == u" 1 "_s);
+                QCOMPARE(box.ticked(), lines.at(row.line - 1) == u" 1 "_s);
             }
+            box.setValue(2); // greyed is not ticked
+            ReadControlsToSettings(settings, controls);
+            QCOMPARE(SettingsLines(settings, false).at(row.line - 1), u" 0 "_s);
         }
+        QVERIFY(seen.size() >= 50);
     }
 
     void otherControls()
