@@ -140,6 +140,7 @@ void ConnectGameLists(Launcher& launcher)
     Controls& controls = launcher.controls;
     controls.OptionUdir.clicked = [&launcher](int view) { OptionUdirClick(launcher, view); };
     controls.PwadList.clicked = [&launcher] { gameClicked(launcher); };
+    controls.edFilter.typed = [&controls] { controls.PwadList.setFilter(controls.edFilter.text); };
     controls.PwadShowlist.clicked = [&launcher] { gameFileClicked(launcher); };
     controls.PwadShowlist.chosen = [&launcher] { gameFilePicked(launcher); };
 }
