@@ -7,9 +7,11 @@
 // The main window itself. Layout units are device-independent pixels.
 struct WindowControl : Control
 {
-    std::function<void(const QStringList&)> filesDropped; // paths with '/'
     bool compact = false;      // default mode: without the command panel and its height
     bool saveGamesTall = true; // the boundary between the game files and the savegames
+
+    // The player dropped files on the window, one of them at least a WAD or a zip: their paths, with '/'.
+    std::function<void(const QStringList& paths)> filesDropped;
 };
 
 // Every control of the main window, under its given name, as the window is built: captions, start values

@@ -59,10 +59,13 @@ QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
     row->setContentsMargins(12, 0, 12, 0);
     row->setSpacing(4);
 
+    constexpr int install = 0;
     constexpr int iwadLocations = 5;
-    auto* iwads = new QPushButton;
-    binder.bind(NameOf(u"AuxButton"_s, iwadLocations), controls.AuxButton[iwadLocations], iwads);
-    row->addWidget(iwads);
+    for (const int tool : {install, iwadLocations}) {
+        auto* button = new QPushButton;
+        binder.bind(NameOf(u"AuxButton"_s, tool), controls.AuxButton[static_cast<size_t>(tool)], button);
+        row->addWidget(button);
+    }
 
     auto* wine = new QLabel;
     binder.bind(u"WineImage"_s, controls.WineImage, wine);

@@ -5,13 +5,19 @@
 #include "app/StripBar.h"
 #include "catalogue/GamesPage.h"
 #include "iwads/IwadForm.h"
+#include "platform/Paths.h"
+#include "ui/FilterView.h"
 #include "ui/TitleView.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,6 +30,18 @@ namespace {
 // is lower by as much as the panel takes.
 constexpr QSize advancedSize(940, 600);
 constexpr int panelHeight = 72;
+
+// The paths of the files that are dragged; none when none of them can be a game.
+QStringList draggedGames(const QMimeData& dragged)
+{
+    QStringList paths;
+    for (const QUrl& url : dragged.urls())
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    const bool hasGame = std::ranges::any_of(
+        paths, [](const QString& path) { return EndsWith(path, u".wad"_s) || EndsWith(path, u".zip"_s); });
+    return hasGame ? paths : QStringList();
+}
 
 } // namespace
 
@@ -66,6 +84,12 @@ void MainForm::build()
     rows->addLayout(below, 1);
 
     qApp->installEventFilter(this);
+    setAcceptDrops(true);
+    const auto* find = new QShortcut(Qt::CTRL | Qt::Key_F, this);
+    connect(find, &QShortcut::activated, this, [this, games] {
+        m_binder.run([this] { m_launcher->controls.OptionTabs.select(0); });
+        games->findGame();
+    });
 }
 
 QSize MainForm::screenSize() const
@@ -146,8 +170,9 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyPress && isActiveWindow() && !QApplication::activePopupWidget()) {
         const auto* keyEvent = static_cast<QKeyEvent*>(event);
         const bool isEnter = keyEvent->key() == Qt::Key_Return || keyEvent->key() == Qt::Key_Enter;
+        const bool isMeantForList = qobject_cast<FilterView*>(QApplication::focusWidget());
         bool pressed = false;
-        if (isEnter && !keyEvent->isAutoRepeat())
+        if (isEnter && !isMeantForList && !keyEvent->isAutoRepeat())
             m_binder.run([&] { pressed = EnterPressed(*m_launcher); });
         if (pressed)
             return true;
@@ -160,15 +185,46 @@ void MainForm::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (!m_launcher || !isVisible())
         return;
+    // A command that is running must find everything as it was: these wait for its end.
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        m_binder.run([this] { ActivateMainWindow(*m_launcher); });
+        m_binder.runAfter([this] { ActivateMainWindow(*m_launcher); });
     else if (event->type() == QEvent::WindowStateChange)
-        m_binder.run([this] { ResizeMainWindow(*m_launcher); });
+        m_binder.runAfter([this] { ResizeMainWindow(*m_launcher); });
 }
 
 void MainForm::closeEvent(QCloseEvent* event)
 {
+    if (m_binder.isRunning()) {
+        event->ignore();
+        return;
+    }
     UnloadMainWindow(*m_launcher);
     event->accept();
     endProgram();
+}
+
+void MainForm::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (m_binder.isRunning() || draggedGames(*event->mimeData()).isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction); // the files stay where they are
+    event->accept();
+}
+
+void MainForm::dropEvent(QDropEvent* event)
+{
+    const QStringList paths = draggedGames(*event->mimeData());
+    if (paths.isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // Later: the program that they come from waits until the drop has returned.
+    QMetaObject::invokeMethod(
+        this,
+        [this, paths] {
+            const auto& filesDropped = m_launcher->controls.MainForm.filesDropped;
+            if (!m_binder.isRunning() && filesDropped)
+                m_binder.run([&] { filesDropped(paths); });
+        },
+        Qt::QueuedConnection);
 }

@@ -1,5 +1,6 @@
 #include "catalogue/GamesPage.h"
 
+#include "ui/FilterView.h"
 #include "ui/HeadingView.h"
 #include "ui/ListView.h"
 
@@ -48,9 +49,9 @@ QBoxLayout* gamesHeading(Controls& controls, ControlBinder& binder)
 }
 
 ListView* list(ControlBinder& binder, ListBox& control, const QString& objectName,
-               const QString& accessibleName, const QString& whyEmpty)
+               const QString& accessibleName, const QString& whyEmpty, const QString& whyNoneInSight = {})
 {
-    auto* view = new ListView(whyEmpty);
+    auto* view = new ListView(whyEmpty, whyNoneInSight);
     view->setAccessibleName(accessibleName);
     binder.bind(objectName, control, view);
     return view;
@@ -79,11 +80,23 @@ QBoxLayout* GamesPage::gamesColumn(Controls& controls, ControlBinder& binder)
     views->addStretch();
     binder.bind(u"OptionUdir"_s, controls.OptionUdir, buttons);
 
+    ListView* games =
+        list(binder, controls.PwadList, u"PwadList"_s, u"Games"_s, u"No games found"_s, u"No game matches"_s);
+    m_filter = new FilterView(u"Find a game"_s, games);
+    binder.bind(u"edFilter"_s, controls.edFilter, m_filter);
+
     auto* column = newColumn();
     column->addLayout(views);
     column->addLayout(gamesHeading(controls, binder));
-    column->addWidget(list(binder, controls.PwadList, u"PwadList"_s, u"Games"_s, u"No games found"_s));
+    column->addWidget(m_filter);
+    column->addWidget(games);
     return column;
+}
+
+void GamesPage::findGame()
+{
+    m_filter->setFocus();
+    m_filter->selectAll();
 }
 
 QBoxLayout* GamesPage::filesColumn(Controls& controls, ControlBinder& binder)

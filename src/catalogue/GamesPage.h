@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class FilterView;
 class QBoxLayout;
 
 // The games tab: the games list with its views, the game's files and savegames, and its maps.
@@ -15,8 +16,13 @@ class GamesPage : public QWidget
 public:
     GamesPage(Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
 
+    // Leads the keyboard to the box that filters the games list.
+    void findGame();
+
 private:
     QBoxLayout* gamesColumn(Controls& controls, ControlBinder& binder);
     QBoxLayout* filesColumn(Controls& controls, ControlBinder& binder);
     QBoxLayout* mapsColumn(Controls& controls, ControlBinder& binder);
+
+    FilterView* m_filter = nullptr;
 };

@@ -1,15 +1,17 @@
 #include "ui/ControlBinder.h"
 
+#include "ui/ListView.h"
 #include "ui/StyleView.h"
+#include "ui/TaskMenuView.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 
-#include <memory>
+#include <utility>
 
 namespace {
 
@@ -27,8 +29,7 @@ void writeShared(const Control& control, QWidget* widget)
 
 void writeCaption(const Control& control, QAbstractButton* button)
 {
-    // An '&' in a caption is text, not a key.
-    const QString caption = QString(control.caption).replace(u'&', QStringLiteral("&&"));
+    const QString caption = AsPlainCaption(control.caption);
     if (button->text() != caption)
         button->setText(caption);
 }
@@ -115,44 +116,42 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
 void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit* edit)
 {
     name(edit, objectName, control.caption);
+    edit->setAcceptDrops(false); // files dropped on it are for the window
     m_writers.emplace_back([&control, edit] {
         writeShared(control, edit);
         if (edit->text() != control.text)
             edit->setText(control.text);
     });
-    connect(edit, &QLineEdit::textEdited, this,
-            [this, &control](const QString& text) { run([&control, text] { control.text = text; }); });
+    connect(edit, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
+        run([&control, text] {
+            control.text = text;
+            if (control.typed)
+                control.typed();
+        });
+    });
 }
 
-void ControlBinder::bind(const QString& objectName, ListBox& control, QListWidget* list)
+void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* list)
 {
     name(list, objectName, control.caption);
-    m_writers.emplace_back([&control, list, shown = QStringList()]() mutable {
+    m_writers.emplace_back([&control, list] {
         writeShared(control, list);
-        const QSignalBlocker quiet(list);
-        if (shown != control.entries()) {
-            shown = control.entries();
-            list->clear();
-            list->addItems(shown);
-        }
-        if (list->currentRow() != control.selected())
-            list->setCurrentRow(control.selected());
-        if (QListWidgetItem* item = list->currentItem())
-            list->scrollToItem(item);
+        list->showList(control);
     });
-    // A press on another row changes the row first; a press on the same row counts as a click too.
-    const auto handled = std::make_shared<int>(-1);
-    connect(list, &QListWidget::currentRowChanged, this, [this, &control, handled](int row) {
-        if (row < 0)
-            return;
-        *handled = row;
-        QMetaObject::invokeMethod(
-            this, [handled] { *handled = -1; }, Qt::QueuedConnection);
-        run([&control, row] { control.click(row); });
+    connect(list, &ListView::picked, this,
+            [this, &control](int entry) { run([&control, entry] { control.click(entry); }); });
+    connect(list, &ListView::doublePicked, this, [this, &control](int entry) {
+        if (control.doubleClicked && control.selected() == entry)
+            run(control.doubleClicked);
     });
-    connect(list, &QListWidget::pressed, this, [this, &control, handled](const QModelIndex& index) {
-        if (index.isValid() && index.row() != *handled)
-            run([&control, row = index.row()] { control.click(row); });
+    connect(list, &ListView::menuAsked, this, [this, &control, list](int entry, QPoint at) {
+        const bool isSelected = control.selected() == entry;
+        const Menu* menu = control.taskMenu && isSelected && !isRunning() ? control.taskMenu() : nullptr;
+        if (menu)
+            PopUpTaskMenu(*menu, list, at, [this](const MenuItem& item) {
+                if (item.clicked)
+                    run(item.clicked);
+            });
     });
 }
 
@@ -177,8 +176,24 @@ void ControlBinder::bind(const QString& objectName, ListBox& control, QComboBox*
 
 void ControlBinder::run(const std::function<void()>& event)
 {
-    event();
+    if (isRunning() && !QApplication::activeModalWidget())
+        return;
+    {
+        const QScopedValueRollback running(m_running, m_running + 1);
+        event();
+    }
     write();
+    if (!isRunning())
+        for (const auto& waiting : std::exchange(m_waiting, {}))
+            run(waiting);
+}
+
+void ControlBinder::runAfter(std::function<void()> event)
+{
+    if (isRunning())
+        m_waiting.push_back(std::move(event));
+    else
+        run(event);
 }
 
 void ControlBinder::write()

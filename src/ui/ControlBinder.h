@@ -7,12 +7,12 @@
 #include <functional>
 #include <vector>
 
+class ListView;
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 
 // Ties controls to the widgets that show them: a user's signal becomes the control's event, and after
 // every event the widgets get what differs. Nothing else sets a bound widget's state. Controls and
@@ -32,11 +32,16 @@ public:
     void bind(const QString& name, CheckBox& control, QCheckBox* box);
     void bind(const QString& name, OptionButtons& control, const QList<QAbstractButton*>& buttons);
     void bind(const QString& name, TextBox& control, QLineEdit* edit);
-    void bind(const QString& name, ListBox& control, QListWidget* list);
+    void bind(const QString& name, ListBox& control, ListView* list);
     void bind(const QString& name, ListBox& control, QComboBox* list);
 
-    // Runs `event`, then writes: for events that come from no bound widget.
+    // Runs `event`, then writes: for events that come from no bound widget. While another one runs, only
+    // a modal dialog's events get through; what else comes in meanwhile is dropped.
     void run(const std::function<void()>& event);
+    bool isRunning() const { return m_running > 0; }
+
+    // Runs `event` now, or when the one that is running has ended.
+    void runAfter(std::function<void()> event);
 
     // Writes to the widgets what differs from their controls.
     void write();
@@ -46,6 +51,8 @@ Q_SIGNALS:
 
 private:
     std::vector<std::function<void()>> m_writers;
+    std::vector<std::function<void()>> m_waiting; // until nothing runs
+    int m_running = 0;                            // events within each other
 };
 
 // The name of a control of an array.

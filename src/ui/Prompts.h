@@ -28,7 +28,7 @@ struct FileQuestion
 {
     QString title;
     QString filter;  // what the files are called
-    QString pattern; // "*.wad"
+    QString pattern; // "*.wad", or several with a semicolon after each
     QString folder;  // where to start, with '/'
 };
 

@@ -1,10 +1,16 @@
 #include "ui/PromptsView.h"
 
 #include "platform/Paths.h"
+#include "ui/AskForm.h"
+#include "ui/ProgressView.h"
+#include "ui/TaskMenuView.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QUrl>
 
@@ -61,10 +67,15 @@ int resultOf(QMessageBox::StandardButton button)
 
 } // namespace
 
+QWidget* PromptsView::over() const
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : m_mainWindow;
+}
+
 int PromptsView::MsgboxPos(const QString& text, int style, const QString& title)
 {
-    QWidget* over = QApplication::activeModalWidget();
-    QMessageBox box(over ? over : m_mainWindow);
+    QMessageBox box(over());
     box.setIcon(iconOf(style));
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText); // file names are no markup
@@ -86,26 +97,32 @@ int PromptsView::MsgboxPos(const QString& text, int style, const QString& title)
 
 QString PromptsView::chooseFile(const FileQuestion& question)
 {
-    QWidget* over = QApplication::activeModalWidget();
-    const QString filter = question.filter + u" ("_s + question.pattern + u' ' + question.pattern.toUpper() +
+    const QString patterns = question.pattern.split(u';', Qt::SkipEmptyParts).join(u' ');
+    const QString filter = question.filter + u" ("_s + patterns + u' ' + patterns.toUpper() +
                            u')'; // names compare without regard to case
-    return WithSlashes(
-        QFileDialog::getOpenFileName(over ? over : m_mainWindow, question.title, question.folder, filter));
+    return WithSlashes(QFileDialog::getOpenFileName(over(), question.title, question.folder, filter));
 }
 
-std::optional<QString> PromptsView::askName(const NameQuestion&)
+std::optional<QString> PromptsView::askName(const NameQuestion& question)
 {
-    return std::nullopt;
+    AskForm form(question, over());
+    return form.exec() == QDialog::Accepted ? std::optional(form.name()) : std::nullopt;
 }
 
-QString PromptsView::askPassword(const QString&)
+QString PromptsView::askPassword(const QString& text)
 {
-    return {};
+    QInputDialog box(over());
+    box.setObjectName(u"Password"_s);
+    box.setWindowTitle(u"Password"_s);
+    box.setLabelText(AsPlainCaption(text)); // file names are no markup
+    box.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
+    box.setTextEchoMode(QLineEdit::Password);
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
-std::unique_ptr<Progress> PromptsView::showProgress(const QString&)
+std::unique_ptr<Progress> PromptsView::showProgress(const QString& what)
 {
-    return nullptr;
+    return std::make_unique<ProgressView>(what, over());
 }
 
 bool PromptsView::openWithShell(const QString& target)

@@ -19,5 +19,7 @@ public:
     bool openWithShell(const QString& target) override;
 
 private:
+    QWidget* over() const; // the window that a dialog belongs to
+
     QWidget* m_mainWindow;
 };

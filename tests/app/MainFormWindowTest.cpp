@@ -5,11 +5,12 @@
 #include "platform/SystemProcesses.h"
 #include "tests/support/QueuedPrompts.h"
 #include "tests/support/TemporaryInstallation.h"
+#include "ui/ListView.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QtTest>
@@ -43,7 +44,6 @@ private Q_SLOTS:
     void cleanup();
 
     void everyWidgetIsNamedOnceAndAccessible();
-    void theFourListsCarryTheirNames();
     void aClickChangesTheControlAndTheWidgetsFollow();
     void advancedOptionsShowThePanelAndTheTabs();
     void fromAClickedMapToTheEngine();
@@ -56,6 +56,9 @@ private Q_SLOTS:
     void theLauncherFontReachesEveryText();
     void captionsAreShownAsTheyAre();
     void theTitlePictureCyclesAndSurvivesABadFile();
+    void ctrlFFindsAGameAndEnterDoesNotLaunchIt();
+    void droppedGamesAreHandedOnAfterTheDrop();
+    void aCommandThatRunsIsLeftAlone();
 
 private:
     template <class Widget>
@@ -64,6 +67,8 @@ private:
         return m_window->findChild<Widget*>(name);
     }
     void clickRow(const QString& list, int row);
+    QStringList rowsOf(const QString& list) const;
+    int currentRowOf(const QString& list) const { return find<ListView>(list)->currentIndex().row(); }
     QStringList engineArguments();
 
     std::unique_ptr<TemporaryInstallation> m_installation;
@@ -114,9 +119,19 @@ void MainFormWindowTest::cleanup()
 
 void MainFormWindowTest::clickRow(const QString& name, int row)
 {
-    auto* list = find<QListWidget>(name);
-    list->scrollToItem(list->item(row));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+    auto* list = find<ListView>(name);
+    const QModelIndex index = list->model()->index(row, 0);
+    list->scrollTo(index);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+}
+
+QStringList MainFormWindowTest::rowsOf(const QString& name) const
+{
+    const QAbstractItemModel* model = find<ListView>(name)->model();
+    QStringList rows;
+    for (int row = 0; row < model->rowCount(); ++row)
+        rows << model->index(row, 0).data().toString();
+    return rows;
 }
 
 QStringList MainFormWindowTest::engineArguments()
@@ -142,22 +157,16 @@ void MainFormWindowTest::everyWidgetIsNamedOnceAndAccessible()
     for (const QWidget* widget : m_window->findChildren<QWidget*>()) {
         const bool takesInput =
             qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
-            qobject_cast<const QListWidget*>(widget) || qobject_cast<const QComboBox*>(widget);
+            qobject_cast<const ListView*>(widget) || qobject_cast<const QComboBox*>(widget);
         QVERIFY2(!takesInput || !widget->objectName().isEmpty(), widget->metaObject()->className());
     }
     for (const QString& name :
          {u"chkMain_0"_s, u"chkMain_2"_s, u"OptionUdir_1"_s, u"OptionTabs_0"_s, u"SkillsLevel_0"_s,
           u"edCustom"_s, u"LaunchButton"_s, u"Home_0"_s, u"Home_3"_s, u"TitlePic"_s, u"Auto_0"_s})
         QVERIFY2(names.contains(name), qPrintable(name));
-}
-
-void MainFormWindowTest::theFourListsCarryTheirNames()
-{
     QCOMPARE(find<QWidget>(u"PwadList"_s)->accessibleName(), u"Games"_s);
-    QCOMPARE(find<QWidget>(u"PwadShowlist"_s)->accessibleName(), u"Game files"_s);
-    QCOMPARE(find<QWidget>(u"MapList"_s)->accessibleName(), u"Maps"_s);
     QCOMPARE(find<QWidget>(u"SaveGameList"_s)->accessibleName(), u"Savegames"_s);
-    QCOMPARE(find<QWidget>(u"chkMain_0"_s)->accessibleName(), u"Basic Doom"_s);
+    QCOMPARE(find<QWidget>(u"edFilter"_s)->accessibleName(), u"Find a game"_s);
 }
 
 void MainFormWindowTest::aClickChangesTheControlAndTheWidgetsFollow()
@@ -167,8 +176,8 @@ void MainFormWindowTest::aClickChangesTheControlAndTheWidgetsFollow()
 
     clickRow(u"PwadList"_s, 1);
     QCOMPARE(m_launcher->settings.SelectedDoomGame, u"DOOM/ULTIMATE DOOM"_s);
-    QCOMPARE(find<QListWidget>(u"MapList"_s)->count(), 2);
-    QCOMPARE(find<QListWidget>(u"PwadShowlist"_s)->item(0)->text(), u"DOOM.WAD"_s);
+    QCOMPARE(rowsOf(u"MapList"_s).size(), 2);
+    QCOMPARE(rowsOf(u"PwadShowlist"_s), QStringList(u"DOOM.WAD"_s));
 
     m_launcher->controls.LaunchButton.enabled = false;
     m_launcher->controls.Auto[0].caption = u"CHANGED"_s;
@@ -216,12 +225,10 @@ void MainFormWindowTest::fromAClickedMapToTheEngine()
 
 void MainFormWindowTest::aSavegameIsListedAndLoaded()
 {
-    auto* saves = find<QListWidget>(u"SaveGameList"_s);
-    QCOMPARE(saves->count(), 1);
-    QCOMPARE(saves->item(0)->text(), u"3 - Before the gate"_s);
+    QCOMPARE(rowsOf(u"SaveGameList"_s), QStringList(u"3 - Before the gate"_s));
     clickRow(u"MapList"_s, 4);
     clickRow(u"SaveGameList"_s, 0);
-    QCOMPARE(find<QListWidget>(u"MapList"_s)->currentRow(), -1);
+    QCOMPARE(currentRowOf(u"MapList"_s), -1);
     find<QPushButton>(u"LaunchButton"_s)->click();
     QCOMPARE(engineArguments().last(2), (QStringList{u"-loadgame"_s, u"3"_s}));
 }
@@ -268,7 +275,7 @@ void MainFormWindowTest::tabbingByChoosesNothing()
     m_installation->add(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s, "MAP05\r\n");
     for (const QString& name : {u"SaveGameList"_s, u"MapList"_s}) {
         find<QWidget>(name)->setFocus(Qt::TabFocusReason);
-        QCOMPARE(find<QListWidget>(name)->currentRow(), -1);
+        QCOMPARE(currentRowOf(name), -1);
     }
     QCOMPARE(m_launcher->launch.StartChoice, StartChoice::NewGame);
     QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP05\r\n"));
@@ -282,7 +289,7 @@ void MainFormWindowTest::aClickOnTheChosenMapIsAPick()
     auto* skill = find<QComboBox>(u"SkillsLevel_1"_s);
     skill->setFocus();
     QTest::keyClick(skill, Qt::Key_Down);
-    QCOMPARE(find<QListWidget>(u"MapList"_s)->currentRow(), 0);
+    QCOMPARE(currentRowOf(u"MapList"_s), 0);
     QVERIFY(!m_installation->exists(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s));
     clickRow(u"MapList"_s, 0);
     QCOMPARE(m_installation->read(u"VYKLaunch/GameInfo/Iwads/doom2.vykm"_s), QByteArray("MAP01\r\n"));
@@ -327,6 +334,62 @@ void MainFormWindowTest::theTitlePictureCyclesAndSurvivesABadFile()
     QTest::mouseClick(title, Qt::LeftButton, {}, {200, 50});
     QCOMPARE(m_launcher->settings.TitlePicIndex, 1);
     QVERIFY(centre().green() > 200); // the broken one is skipped
+}
+
+void MainFormWindowTest::ctrlFFindsAGameAndEnterDoesNotLaunchIt()
+{
+    find<QAbstractButton>(u"chkMain_2"_s)->click(); // advanced
+    find<QAbstractButton>(u"OptionTabs_1"_s)->click();
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+    auto* filter = find<QLineEdit>(u"edFilter"_s);
+    QVERIFY(filter->hasFocus() && filter->isVisible());
+
+    QTest::keyClicks(filter, u"ultimate"_s);
+    QCOMPARE(rowsOf(u"PwadList"_s), QStringList(u"DOOM/ULTIMATE DOOM"_s));
+    QCOMPARE(m_launcher->settings.SelectedDoomGame, u"DOOM II"_s);
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Return);
+    QCOMPARE(m_launcher->settings.SelectedDoomGame, u"DOOM/ULTIMATE DOOM"_s);
+    QVERIFY(!m_installation->exists(u"VYKLaunch/launch.log"_s));
+
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(filter->selectedText(), u"ultimate"_s);
+}
+
+void MainFormWindowTest::droppedGamesAreHandedOnAfterTheDrop()
+{
+    QStringList dropped;
+    m_launcher->controls.MainForm.filesDropped = [&](const QStringList& paths) { dropped = paths; };
+    QMimeData games, texts;
+    games.setUrls({QUrl::fromLocalFile(u"/a/readme.txt"_s), QUrl::fromLocalFile(u"/a/b c.WAD"_s)});
+    texts.setUrls({QUrl(u"http://localhost/a.wad"_s), QUrl::fromLocalFile(u"/a/readme.txt"_s)});
+    const auto dragEnters = [this](const QMimeData& data) {
+        QDragEnterEvent event({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        event.ignore();
+        QApplication::sendEvent(m_window.get(), &event);
+        return event.isAccepted();
+    };
+    QVERIFY(!dragEnters(texts));
+    QVERIFY(dragEnters(games));
+    QDropEvent drop({9, 9}, Qt::CopyAction, &games, Qt::LeftButton, {});
+    QApplication::sendEvent(m_window.get(), &drop);
+    QVERIFY(dropped.isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(dropped, (QStringList{u"/a/readme.txt"_s, u"/a/b c.WAD"_s}));
+}
+
+void MainFormWindowTest::aCommandThatRunsIsLeftAlone()
+{
+    bool windowClosed = true;
+    bool launched = true;
+    m_launcher->controls.Auto[0].clicked = [&] {
+        windowClosed = m_window->close();
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Return);
+        launched = m_installation->exists(u"VYKLaunch/launch.log"_s);
+    };
+    QTest::mouseClick(find<QWidget>(u"Auto_0"_s), Qt::LeftButton);
+    QVERIFY(!windowClosed);
+    QVERIFY(!launched);
+    QVERIFY(m_window->close());
 }
 
 QTEST_MAIN(MainFormWindowTest)
