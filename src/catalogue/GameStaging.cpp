@@ -2,6 +2,8 @@
 
 #include "platform/Paths.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -194,7 +196,8 @@ void GameStaging::addToFolder(const QString& target)
 void RecoverGames(FileSystem& files, const QString& gamesPath)
 {
     const QString games = files.actualPath(gamesPath) + u'/';
-    if (!files.folderExists(workFolder(games)))
+    // Our own folder, spelled as we spell it: it is not searched for among thousands of games.
+    if (!QFileInfo(workFolder(games)).isDir())
         return;
     QLockFile lock(lockPath(games));
     lock.setStaleLockTime(0);

@@ -1,5 +1,6 @@
 #include "platform/DiskFileSystem.h"
 
+#include "platform/FolderScan.h"
 #include "platform/Paths.h"
 
 #include <QDir>
@@ -68,18 +69,19 @@ bool Before(const QString& a, const QString& b)
     return order != 0 ? order < 0 : a < b;
 }
 
-QStringList Entries(const QString& folder, QDir::Filters kinds)
+// In the order of Before, with every name folded once.
+QStringList Sorted(const QStringList& names)
 {
-    if (folder.isEmpty())
-        return {};
-    return QDir(folder).entryList(kinds | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Unsorted);
-}
-
-QStringList SortedEntries(const QString& folder, QDir::Filters kinds)
-{
-    QStringList names = Entries(folder, kinds);
-    std::ranges::sort(names, Before);
-    return names;
+    std::vector<std::pair<QString, QString>> folded;
+    folded.reserve(static_cast<size_t>(names.size()));
+    for (const QString& name : names)
+        folded.emplace_back(name.toCaseFolded(), name);
+    std::ranges::sort(folded);
+    QStringList sorted;
+    sorted.reserve(names.size());
+    for (const auto& [key, name] : folded)
+        sorted << name;
+    return sorted;
 }
 
 // A link that leads nowhere is there too: it can be removed, and it keeps a folder from being removed.
@@ -98,7 +100,7 @@ QString Joined(const QString& folder, const QString& name)
 QString OtherSpelling(const QString& folder, const QString& name)
 {
     QString best;
-    const QStringList names = Entries(folder, QDir::AllEntries | QDir::System);
+    const QStringList names = EntriesOf(folder, EntryKind::Any);
     for (const QString& candidate : names)
         if (SameName(candidate, name) && (best.isEmpty() || Before(candidate, best)))
             best = candidate;
@@ -248,28 +250,17 @@ bool DiskFileSystem::folderExists(const QString& path) const
 
 QStringList DiskFileSystem::files(const QString& folder) const
 {
-    return SortedEntries(actualPath(folder), QDir::Files);
+    return Sorted(EntriesOf(actualPath(folder), EntryKind::File));
 }
 
 QStringList DiskFileSystem::folders(const QString& folder) const
 {
-    return SortedEntries(actualPath(folder), QDir::Dirs);
+    return Sorted(EntriesOf(actualPath(folder), EntryKind::Folder));
 }
 
 QStringList DiskFileSystem::foldersHolding(const QString& folder, const QStringList& names) const
 {
-    const QString path = actualPath(folder) + u'/';
-    QStringList found = folders(folder);
-    found.removeIf([&](const QString& name) {
-        // Spelled as expected, mostly: the folder is only searched when none is.
-        const QString inside = path + name + u'/';
-        const auto isFolder = [&](const QString& wanted) { return QFileInfo(inside + wanted).isDir(); };
-        const auto isFolderSpelledOtherwise = [&](const QString& wanted) {
-            return folderExists(inside + wanted);
-        };
-        return std::ranges::none_of(names, isFolder) && std::ranges::none_of(names, isFolderSpelledOtherwise);
-    });
-    return found;
+    return Sorted(FoldersHolding(actualPath(folder), names));
 }
 
 QDateTime DiskFileSystem::modified(const QString& path) const
