@@ -71,9 +71,10 @@ void installedGameClicked(Launcher& launcher, const QString& name)
         scripted ? u"KELDRAX SCRIPTED MAP"_s : ListHeading(launcher, installedGames);
     launcher.settings.SelectedGame = name;
     (selection.GwadSelected ? selection.SelectedGwadGame : selection.SelectedPwadGame) = name;
-    const QString folder = launcher.files.actualPath(launcher.paths.GamesPath + name +
-                                                     (selection.GwadSelected ? u"/Gwads"_s : u"/Pwads"_s));
-    showGameFolder(launcher, folder + u'/');
+    const QString folder =
+        launcher.paths.GamesPath + name + (selection.GwadSelected ? u"/Gwads"_s : u"/Pwads"_s);
+    const QString onDisk = launcher.files.actualPath(folder); // empty when it has gone meanwhile
+    showGameFolder(launcher, (onDisk.isEmpty() ? folder : onDisk) + u'/');
     launcher.controls.MainForm.saveGamesTall =
         !selection.GwadSelected && launcher.controls.PwadShowlist.count() < manyFiles;
     if (selection.GwadSelected)
@@ -166,4 +167,10 @@ void ClassifySelectedGame(Launcher& launcher, const QString& name)
 bool CanLaunchSelection(const Launcher& launcher)
 {
     return launcher.controls.PwadShowlist.selected() >= 0 && launcher.controls.OptionTabs.selected() == 0;
+}
+
+QString ChosenWadName(const Launcher& launcher)
+{
+    const QString& file = launcher.selection.SelectedGameFile;
+    return EndsWith(file, u".wad"_s) ? BaseNameOf(file) : QString();
 }

@@ -13,3 +13,7 @@ void ClassifySelectedGame(Launcher& launcher, const QString& name);
 
 // Whether the current selection can be launched.
 bool CanLaunchSelection(const Launcher& launcher);
+
+// The base name of the selected game's chosen WAD, under which the engine and the installation keep what
+// belongs to it; empty when no WAD is chosen: a text that happens to have another WAD's name is none.
+QString ChosenWadName(const Launcher& launcher);

@@ -86,7 +86,10 @@ QString lockPath(const QString& gamesPath)
 QString existing(FileSystem& files, const QString& folder)
 {
     files.createFolder(folder);
-    return files.actualPath(folder) + u'/';
+    const QString path = files.actualPath(folder);
+    if (path.isEmpty())
+        throw FileError(FileError::Kind::NotFound, folder, u"no such folder"_s);
+    return path + u'/';
 }
 
 } // namespace
@@ -197,7 +200,7 @@ void RecoverGames(FileSystem& files, const QString& gamesPath)
 {
     const QString games = files.actualPath(gamesPath) + u'/';
     // Our own folder, spelled as we spell it: it is not searched for among thousands of games.
-    if (!QFileInfo(workFolder(games)).isDir())
+    if (games == u"/" || !QFileInfo(workFolder(games)).isDir())
         return;
     QLockFile lock(lockPath(games));
     lock.setStaleLockTime(0);

@@ -12,5 +12,6 @@
 void DeleteFilesBeginningWith(FileSystem& files, const InstallationPaths& paths, const QString& base,
                               std::initializer_list<const char16_t*> folders);
 
-// Deletes the models, textures and music that an installed PWAD game brought.
+// Deletes the models, textures and music that an installed PWAD game brought; the model packs' own folders
+// stay, whatever a WAD is called.
 void DeleteGameResources(FileSystem& files, const InstallationPaths& paths, const QString& base);

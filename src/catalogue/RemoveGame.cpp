@@ -108,7 +108,7 @@ void RemoveInstalledGame(Launcher& launcher)
                 "associated files or folders are in use by another program."_s))
         return;
     try {
-        removeGame(launcher, name, BaseNameOf(file));
+        removeGame(launcher, name, ChosenWadName(launcher));
     } catch (const FileError&) {
         reportPartlyRemoved(launcher);
     }
@@ -152,7 +152,7 @@ void DeleteArchive(Launcher& launcher)
                 "  appears to be in use by another program."_s))
         return;
     try {
-        removeArchive(launcher, name, BaseNameOf(launcher.selection.SelectedGameFile));
+        removeArchive(launcher, name, ChosenWadName(launcher));
     } catch (const FileError&) {
         reportAccessError(launcher, u"Unable to remove the selected item from this list,       \r\n"
                                     "   the file may be in use by another program."_s);

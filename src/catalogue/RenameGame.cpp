@@ -2,6 +2,7 @@
 
 #include "catalogue/GameLists.h"
 #include "catalogue/GameNames.h"
+#include "catalogue/GameSelection.h"
 #include "catalogue/Leftovers.h"
 #include "catalogue/RecordRemoval.h"
 #include "catalogue/ZipLibrary.h"
@@ -40,7 +41,7 @@ void RenameInstalledGame(Launcher& launcher)
     const QString old = launcher.controls.PwadList.selectedName();
     if (old.isEmpty())
         return;
-    const QString base = BaseNameOf(selection.SelectedGameFile);
+    const QString base = ChosenWadName(launcher);
     const std::optional<QString> name = AskGameName(
         launcher, {.caption = u" Rename Game"_s, .frame = u" Name "_s, .button = u"Cancel"_s, .name = old},
         {.title = renamingError});

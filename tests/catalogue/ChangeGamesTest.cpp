@@ -6,6 +6,7 @@
 #include "savegames/DeleteSaveGames.h"
 #include "tests/support/CommercialGame.h"
 
+#include <QDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -278,16 +279,33 @@ private Q_SLOTS:
                               u"VYKLaunch/GameInfo/Save/Gwads/beta/one.vyks"_s, u"gwa/one1.gwa"_s}));
     }
 
-    // A WAD whose name means a folder above must take nothing with it.
-    void hostileWadNames()
+    // A file whose name means a folder above, a model pack or another game's WAD takes nothing with it.
+    void hostileFileNames()
+    {
+        for (const QString& name : {u"...wad"_s, u"Monsters.wad"_s, u"main.txt"_s}) {
+            Collection games(u"ALPHA"_s);
+            games.installation.add(u"MD2/Monsters/imp.md2"_s);
+            games.before = games.contents();
+            games.addWad(u"VYKGames/Evil/Pwads/"_s + name, {u"MAP01"_s});
+            OptionUdirClick(games.launcher, installedGames);
+            games.selectGame(u"EVIL"_s);
+            games.launcher.controls.PwadShowlist.click(0);
+            games.prompts.expectMessage(Msg::ResultYes);
+            RemoveInstalledGame(games.launcher);
+            QVERIFY2(games.contents() == games.before, qPrintable(name));
+        }
+    }
+
+    // A game that went while it was listed leaves the lists empty, and no other folder is taken for it.
+    void vanishedGame()
     {
         Collection games(u"ALPHA"_s);
-        games.addWad(u"VYKGames/Evil/Pwads/...wad"_s, {u"MAP01"_s});
-        OptionUdirClick(games.launcher, installedGames);
-        games.selectGame(u"EVIL"_s);
-        games.prompts.expectMessage(Msg::ResultYes);
-        RemoveInstalledGame(games.launcher);
-        QVERIFY(games.contents() == games.before);
+        QVERIFY(QDir(games.path(u"VYKGames/Beta"_s)).removeRecursively());
+        games.selectGame(u"BETA"_s);
+        QVERIFY(games.launcher.controls.PwadShowlist.isEmpty());
+        QCOMPARE(games.launcher.selection.SelectedGameFolder,
+                 games.launcher.paths.GamesPath + u"Beta/Pwads/"_s);
+        QVERIFY(!games.launcher.controls.LaunchButton.enabled);
     }
 
     void failingCalls()
