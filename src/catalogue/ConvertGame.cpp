@@ -22,6 +22,9 @@ void moveFiles(FileSystem& files, const QString& from, const QString& to)
     }
     for (const QString& name : files.files(from))
         files.move(from + u'/' + name, to + u'/' + name);
+    for (const QString& name : files.folders(from))
+        if (files.actualPath(to + u'/' + name).isEmpty())
+            files.move(from + u'/' + name, to + u'/' + name);
     files.removeTree(from);
 }
 

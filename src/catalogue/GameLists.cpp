@@ -50,8 +50,8 @@ void OptionUdirClick(Launcher& launcher, int view)
     controls.ImageCM.visible = ScriptedMapSwitchShown(launcher);
     controls.AuxButton[zipLibraryButton].visible = view == zipLibrary;
     controls.AuxButton[shortcutButton].enabled = true;
-    FillGamesList(launcher, view);
     controls.Auto[0].caption = ListHeading(launcher, view);
+    FillGamesList(launcher, view);
 
     controls.PwadList.select(std::max(controls.PwadList.find(rememberedGame(launcher, view)), 0));
     controls.LaunchButton.enabled = CanLaunchSelection(launcher);

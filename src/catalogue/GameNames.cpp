@@ -1,5 +1,6 @@
 #include "catalogue/GameNames.h"
 
+#include "catalogue/GameStaging.h"
 #include "platform/FileNames.h"
 
 std::optional<QString> AskGameName(Launcher& launcher, const NameQuestion& question,
@@ -9,7 +10,7 @@ std::optional<QString> AskGameName(Launcher& launcher, const NameQuestion& quest
     if (!AskedName || AskedName->isEmpty())
         return std::nullopt;
     const QString name = AskedName->trimmed();
-    if (IsUsableName(name))
+    if (IsUsableName(name) && !IsReservedGameName(name))
         return name;
     ReportIllegalName(launcher, illegal);
     return std::nullopt;

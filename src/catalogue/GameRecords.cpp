@@ -75,6 +75,11 @@ QString readRecord(const FileSystem& files, const QString& path)
     return FirstField(recordLines(files, path).value(0));
 }
 
+void selectMap(ListBox& maps, const QString& map)
+{
+    maps.select(map.isEmpty() ? 0 : std::max(maps.find(map), 0));
+}
+
 } // namespace
 
 QString SelectedRecordName(const Launcher& launcher)
@@ -96,8 +101,7 @@ void SaveLastMap(Launcher& launcher, const QString& name)
 
 void RestoreLastMap(Launcher& launcher, const QString& name)
 {
-    ListBox& maps = launcher.controls.MapList;
-    maps.select(std::max(maps.find(readRecord(launcher.files, mapRecordPath(launcher, name))), 0));
+    selectMap(launcher.controls.MapList, readRecord(launcher.files, mapRecordPath(launcher, name)));
 }
 
 void SaveGwadSelection(Launcher& launcher, const QString& name)
@@ -107,10 +111,11 @@ void SaveGwadSelection(Launcher& launcher, const QString& name)
     if (file.isEmpty())
         return;
     writeRecord(launcher.files, recordPath(folder, name, u".vykg"_s), {file});
-    if (!launcher.settings.RememberLastMap)
+    const QString map = launcher.controls.MapList.selectedText();
+    if (!launcher.settings.RememberLastMap || map.isEmpty())
         return;
     const QString path = recordPath(folder, name, u".vykm"_s);
-    const QString mapLine = file + u' ' + launcher.controls.MapList.selectedText();
+    const QString mapLine = file + u' ' + map;
     QStringList lines;
     bool placed = false;
     for (const QString& line : recordLines(launcher.files, path)) {
@@ -141,8 +146,7 @@ void RestoreGwadMap(Launcher& launcher, const QString& name)
     for (const QString& line : recordLines(launcher.files, recordPath(folder, name, u".vykm"_s)))
         if (line.startsWith(file, Qt::CaseInsensitive))
             map = line.mid(file.size()).trimmed();
-    ListBox& maps = launcher.controls.MapList;
-    maps.select(std::max(maps.find(map), 0));
+    selectMap(launcher.controls.MapList, map);
 }
 
 void SaveLastSavegame(Launcher& launcher)

@@ -13,9 +13,13 @@
 #include "wad/MapList.h"
 #include "wad/ToolBridge.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr const char16_t* textLumps[] = {u"sndinfo", u"dd_defns", u"scp_zoff", u"scp_defn"};
 
 // Where the engine keeps the savegames of a WAD, or of a family; empty for a name that would lead elsewhere.
 QString savegameFolder(const Launcher& launcher, const QString& name)
@@ -87,9 +91,12 @@ void archiveClicked(Launcher& launcher, const QString& name)
 {
     launcher.controls.MainForm.saveGamesTall = false;
     launcher.settings.SelectedArchive = name;
-    OpenArchive(launcher, name); // one that cannot be opened has no files
+    const bool opened = OpenArchive(launcher, name);
     showGameFolder(launcher, ZipFolder(launcher.paths));
-    ChooseMainWad(launcher, launcher.selection.SelectedGameFolder);
+    if (opened)
+        ChooseMainWad(launcher, launcher.selection.SelectedGameFolder);
+    else // whatever may be left there is not this zip's
+        launcher.controls.PwadShowlist.clear();
 }
 
 void gameClicked(Launcher& launcher)
@@ -133,12 +140,19 @@ void gameFilePicked(Launcher& launcher)
         SaveGwadSelection(launcher, launcher.selection.SelectedGwadGame);
 }
 
-// What the engine calls its texts without an ending is opened as a text.
 void gameFileDoubleClicked(Launcher& launcher)
 {
     const QString name = launcher.controls.PwadShowlist.selectedText();
-    if (!name.isEmpty())
-        ShellOpen(launcher.prompts, launcher.selection.SelectedGameFolder + name);
+    const QString path = launcher.selection.SelectedGameFolder + name;
+    if (name.isEmpty())
+        return;
+    // Texts without an ending, by which nothing but a text editor is found; where there is none of that
+    // name the system's own choice is one.
+    const bool isText = std::ranges::any_of(
+        textLumps, [&](const char16_t* lump) { return SameName(name, QString::fromUtf16(lump)); });
+    const QString editor = u"notepad.exe "_s + u'"' + NativePath(path) + u'"';
+    if (!isText || !launcher.processes.start(editor, launcher.paths.RootPath))
+        ShellOpen(launcher.prompts, path);
 }
 
 } // namespace

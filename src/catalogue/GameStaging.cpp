@@ -15,9 +15,12 @@ const QString replacedGames = u"games/"_s;
 const QString replacedFiles = u"files/"_s;
 const QString gone = u"gone/"_s;
 
+const QString workName = u".installing"_s;
+const QString lockName = u".installing.lock"_s;
+
 QString workFolder(const QString& gamesPath)
 {
-    return gamesPath + u".installing/"_s;
+    return gamesPath + workName + u'/';
 }
 
 // Moves done so far, the last one last; undone in reverse.
@@ -63,9 +66,12 @@ void putBackFiles(FileSystem& files, const QString& folder, const QString& aside
 {
     for (const QString& name : files.folders(aside))
         putBackFiles(files, folder + name + u'/', aside + name + u'/');
-    for (const QString& name : files.files(aside))
-        if (files.folderExists(folder) && files.actualPath(folder + name).isEmpty())
-            files.move(aside + name, folder + name);
+    for (const QString& name : files.files(aside)) {
+        if (!files.actualPath(folder + name).isEmpty())
+            continue;
+        files.createFolder(folder); // its game may have got another name meanwhile
+        files.move(aside + name, folder + name);
+    }
 }
 
 void recover(FileSystem& files, const QString& gamesPath)
@@ -75,12 +81,15 @@ void recover(FileSystem& files, const QString& gamesPath)
         return;
     putBackGames(files, gamesPath, work + replacedGames);
     putBackFiles(files, gamesPath, work + replacedFiles);
-    files.removeTree(work);
+    for (const QString& own : {built, replacedGames, replacedFiles, gone})
+        files.removeTree(work + own);
+    if (files.files(work).isEmpty() && files.folders(work).isEmpty()) // what is not ours stays
+        files.removeFolder(work);
 }
 
 QString lockPath(const QString& gamesPath)
 {
-    return gamesPath + u".installing.lock"_s;
+    return gamesPath + lockName;
 }
 
 QString existing(FileSystem& files, const QString& folder)
@@ -90,6 +99,14 @@ QString existing(FileSystem& files, const QString& folder)
     if (path.isEmpty())
         throw FileError(FileError::Kind::NotFound, folder, u"no such folder"_s);
     return path + u'/';
+}
+
+void requireReplaceable(const FileSystem& files, const QString& path)
+{
+    if (files.folderExists(path))
+        throw FileError(FileError::Kind::Exists, path, u"a folder has the file's name"_s);
+    if (files.isReadOnly(path))
+        throw FileError(FileError::Kind::PermissionDenied, path, u"the file is read-only"_s);
 }
 
 } // namespace
@@ -185,8 +202,10 @@ void GameStaging::addToFolder(const QString& target)
     Moves moves(m_files);
     try {
         for (const QString& name : m_files.files(source)) {
-            if (const QString old = m_files.actualPath(target + name); !old.isEmpty())
+            if (const QString old = m_files.actualPath(target + name); !old.isEmpty()) {
+                requireReplaceable(m_files, old);
                 moves.move(old, aside + FileNameOf(old));
+            }
             moves.move(source + name, target + name);
         }
         moves.move(m_work + replacedFiles, m_work + gone);
@@ -194,6 +213,11 @@ void GameStaging::addToFolder(const QString& target)
         moves.undo();
         throw;
     }
+}
+
+bool IsReservedGameName(const QString& name)
+{
+    return SameName(name, workName) || SameName(name, lockName);
 }
 
 void RecoverGames(FileSystem& files, const QString& gamesPath)

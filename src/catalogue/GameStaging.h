@@ -45,6 +45,9 @@ private:
     QLockFile m_lock;
 };
 
+// True for the names that an installation uses beside the games: no game can have them.
+bool IsReservedGameName(const QString& name);
+
 // Puts back what an installation that was cut off had moved aside, and deletes the rest of it. Nothing
 // happens while another launcher installs. Throws FileError.
 void RecoverGames(FileSystem& files, const QString& gamesPath);

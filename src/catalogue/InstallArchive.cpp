@@ -63,7 +63,8 @@ void InstallArchiveAsPwad(Launcher& launcher)
                                                      .button = u"OK"_s,
                                                      .name = launcher.settings.SelectedArchive},
                                                     {.title = conversionError});
-    if (!name)
+    if (!name ||
+        !OpenArchive(launcher, launcher.settings.SelectedArchive)) // another launcher may use the folder
         return;
     const QString game = launcher.paths.GamesPath + *name;
     if (launcher.files.folderExists(game + u"/Pwads"_s)) {
@@ -103,7 +104,8 @@ void InstallArchiveAsGwad(Launcher& launcher)
                                                      .button = u"OK"_s,
                                                      .name = launcher.settings.SelectedArchive},
                                                     {.title = conversionError});
-    if (!name)
+    if (!name ||
+        !OpenArchive(launcher, launcher.settings.SelectedArchive)) // another launcher may use the folder
         return;
     const auto fill = [&launcher](GameStaging& staging) { return fillFromZipFolder(launcher, staging); };
     if (InstallAsGwad(launcher, *name, fill) != Installed::Done)

@@ -43,7 +43,7 @@ Installed checkFile(Launcher& launcher, const QString& path)
 {
     if (!isWad(path) && !isZip(path))
         return Installed::NotAGame;
-    if (IsUsableName(BaseNameOf(path)))
+    if (IsUsableName(BaseNameOf(path)) && !IsReservedGameName(BaseNameOf(path)))
         return Installed::Done;
     ReportIllegalName(launcher, {.title = installError});
     return Installed::Refused;
@@ -62,6 +62,9 @@ void rememberFolder(Launcher& launcher)
     try {
         WriteLines(launcher.files, launcher.paths.LaunchDataPath + u"pwads.vyk"_s,
                    {NativePath(launcher.selection.LastInstallFolder)});
+    } catch (const FileError&) {
+    }
+    try {
         ReadControlsToSettings(launcher.settings, launcher.controls);
         SaveSettings(launcher);
     } catch (const FileError&) {

@@ -6,6 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int greyed = 2;
+
 QString records(const InstallationPaths& paths)
 {
     return paths.LaunchPath + u"GameInfo/"_s;
@@ -27,11 +29,15 @@ void ConnectRecordRemoval(Launcher& launcher)
 {
     auto& boxes = launcher.controls.chkLaunchPrefs;
     boxes[0].clicked = [&launcher, &box = boxes[0]] {
+        if (box.value() == greyed)
+            return;
         launcher.settings.RememberLastMap = box.ticked();
         if (!box.ticked())
             ClearRememberedMaps(launcher);
     };
     boxes[1].clicked = [&launcher, &box = boxes[1]] {
+        if (box.value() == greyed)
+            return;
         launcher.settings.RememberLastSavegame = box.ticked();
         if (!box.ticked())
             ClearRememberedSavegames(launcher);
@@ -56,7 +62,6 @@ void DeleteRecordsOfGame(FileSystem& files, const InstallationPaths& paths, cons
 void DeleteRecordsOfArchive(FileSystem& files, const InstallationPaths& paths, const QString& name)
 {
     const QString key = name.toLower();
-    files.remove(paths.LaunchPath + u"Zips/Checks/"_s + name + u".vykchk"_s);
     files.remove(records(paths) + u"Save/Zip/"_s + key + u".vyks"_s);
     files.remove(records(paths) + u"Zips/"_s + key + u".vykm"_s);
 }

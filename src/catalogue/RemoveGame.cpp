@@ -67,8 +67,7 @@ void removeGame(Launcher& launcher, const QString& name, const QString& base)
     Selection& selection = launcher.selection;
     const QString game = launcher.paths.GamesPath + name;
     const bool isGwad = selection.GwadSelected;
-    files.removeTree(game + (isGwad ? u"/Gwads"_s : u"/Pwads"_s));
-    files.removeTree(game);
+    files.removeTree(game); // as a whole: of a linked folder the link goes, not what it leads to
     if (!isGwad)
         DeleteGameResources(files, launcher.paths, base);
     DeleteRecordsOfGame(files, launcher.paths, name, isGwad);
@@ -81,6 +80,7 @@ void removeArchive(Launcher& launcher, const QString& name, const QString& base)
 {
     FileSystem& files = launcher.files;
     files.remove(ArchivePath(launcher, name));
+    files.remove(launcher.paths.LaunchPath + u"Zips/Checks/"_s + name + u".vykchk"_s);
     DeleteRecordsOfArchive(files, launcher.paths, name);
     if (IsUsableName(base) && !isWadOfInstalledGame(launcher, base) &&
         files.folderExists(launcher.paths.RootPath + u"/UserSG/"_s + base))
@@ -131,7 +131,8 @@ void DeleteGameFile(Launcher& launcher)
         return;
     try {
         files.remove(ChosenListFile);
-        DeleteShortcuts(files, launcher.shortcutFolders, game + u" - "_s + base);
+        if (!base.isEmpty())
+            DeleteShortcuts(files, launcher.shortcutFolders, game + u" - "_s + base);
         files.remove(launcher.paths.LaunchPath + u"GameInfo/Save/Gwads/"_s + game.toLower() + u'/' +
                      base.toLower() + u".vyks"_s);
         DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});

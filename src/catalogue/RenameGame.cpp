@@ -96,12 +96,13 @@ void RenameArchive(Launcher& launcher)
         return;
     }
     try {
-        // A zip that has the name stays.
-        if (!SameName(old, *name) && !files.actualPath(to).isEmpty())
+        // A zip that has the name stays; the selected one may get another spelling.
+        if (const QString taken = files.actualPath(to); !taken.isEmpty() && taken != files.actualPath(from))
             throw FileError(FileError::Kind::Exists, to, u"the name is taken"_s);
         files.move(from, to);
         launcher.settings.SelectedArchive = *name;
-        DeleteRecordsOfArchive(files, launcher.paths, old);
+        if (!SameName(old, *name))
+            DeleteRecordsOfArchive(files, launcher.paths, old);
         replaceEntry(launcher.controls.PwadList, {ListedArchiveName(launcher, *name), *name});
     } catch (const FileError& error) {
         if (error.isDenied())

@@ -7,6 +7,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString notAZip = u"This file does not appear to be a valid zip file.    "_s;
+
 void fileError(Launcher& launcher, const QString& text)
 {
     launcher.prompts.MsgboxPos(text, Msg::Ok, u" File error"_s);
@@ -37,7 +39,9 @@ bool unpack(Launcher& launcher, const QString& path, const QString& folder)
             return true;
         emptyFolder(launcher.files, folder);
     } catch (const FileError& error) {
-        fileError(launcher, error.isDenied()
+        const bool missing = error.kind() == FileError::Kind::NotFound;
+        fileError(launcher, missing ? notAZip
+                            : error.isDenied()
                                 ? u"The zip file can not be unpacked, a file may be in use.    "_s
                                 : u"The zip file can not be unpacked, the disk may be full.    "_s);
         try {
@@ -70,7 +74,7 @@ bool OpenArchive(Launcher& launcher, const QString& name)
     if (opened == OpenedArchive{path, files.stamp(path), files.stamp(folder)})
         return true;
     opened = {};
-    if (!files.fileExists(path) || !unpack(launcher, path, folder))
+    if (!unpack(launcher, path, folder))
         return false;
     opened = {path, files.stamp(path), files.stamp(folder)};
     return true;
@@ -95,6 +99,6 @@ bool ExtractZip(Launcher& launcher, const QString& ZipSourcePath, const QString&
     case Extraction::NotAZip:
         break;
     }
-    fileError(launcher, u"This file does not appear to be a valid zip file.    "_s);
+    fileError(launcher, notAZip);
     return false;
 }

@@ -15,10 +15,13 @@ void reopenArchive(Launcher& launcher)
     if (!launcher.selection.ArchiveSelected || mainWad.isEmpty() ||
         launcher.files.stamp(mainWad) == launcher.wadReports.value(mainWad).stamp)
         return;
-    ListBox& maps = launcher.controls.MapList;
-    const QString map = maps.selectedText();
+    Controls& controls = launcher.controls;
+    const QString map = controls.MapList.selectedText();
+    const QString savegame = controls.SaveGameList.selectedText();
     SelectGameAgain(launcher);
-    maps.select(maps.find(map));
+    controls.PwadShowlist.select(controls.PwadShowlist.find(FileNameOf(mainWad)));
+    controls.MapList.select(controls.MapList.find(map));
+    controls.SaveGameList.select(controls.SaveGameList.find(savegame));
 }
 
 } // namespace

@@ -153,13 +153,14 @@ LaunchResult LaunchInstalledGame(Launcher& launcher)
     launch.AfterLaunch = true;
     if (launcher.settings.Skill == 0)
         launch.StartChoice = StartChoice::NewGame;
-    commandLine += OptionSwitches({.launcher = launcher,
-                                   .path = LaunchPath::InstalledGame,
-                                   .automaticPlaylist = {},
-                                   .scriptedMap = map.isScriptedMap,
-                                   .scriptedMapModels = launcher.modelPacks.ModelPack2Installed,
-                                   .lateAlternativeWeapons = NeedsAlternativeWeapons(mainWad),
-                                   .wadCheckResult = wadCheckResult});
+    commandLine += OptionSwitches(
+        {.launcher = launcher,
+         .path = LaunchPath::InstalledGame,
+         .automaticPlaylist = {},
+         .scriptedMap = map.isScriptedMap,
+         .scriptedMapModels = launcher.modelPacks.ModelPack2Installed,
+         .lateAlternativeWeapons = !launcher.selection.GwadSelected && NeedsAlternativeWeapons(mainWad),
+         .wadCheckResult = wadCheckResult});
     commandLine += StartSwitches(launcher) + CustomText(launcher);
     return FinishLaunch(launcher, commandLine);
 }

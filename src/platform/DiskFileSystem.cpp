@@ -167,6 +167,13 @@ QString ExistingFile(const QString& path)
     return found.path;
 }
 
+// The bits count, not only the user's rights: an administrator's read-only file stays as it is.
+bool IsReadOnly(const QFileInfo& file)
+{
+    const auto anyone = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return !(file.permissions() & anyone) || !file.isWritable();
+}
+
 void RequireWritable(const QString& path)
 {
     const QFileInfo file(path);
@@ -174,9 +181,7 @@ void RequireWritable(const QString& path)
         return;
     if (!file.isFile())
         throw FileError(Kind::Other, path, u"not a file"_s);
-    // The bits count, not only the user's rights: an administrator's read-only file stays as it is.
-    const auto anyone = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    if (!(file.permissions() & anyone) || !file.isWritable())
+    if (IsReadOnly(file))
         throw FileError(Kind::PermissionDenied, path, u"the file is read-only"_s);
 }
 
@@ -277,6 +282,12 @@ FileStamp DiskFileSystem::stamp(const QString& path) const
     const QFileInfo file(found.path);
     return {file.size(), file.lastModified().toMSecsSinceEpoch(),
             file.metadataChangeTime().toMSecsSinceEpoch()};
+}
+
+bool DiskFileSystem::isReadOnly(const QString& path) const
+{
+    const Found found = Find(path);
+    return found.whole && IsReadOnly(QFileInfo(found.path));
 }
 
 std::unique_ptr<QIODevice> DiskFileSystem::open(const QString& path) const

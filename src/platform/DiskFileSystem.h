@@ -14,6 +14,7 @@ public:
     QStringList foldersHolding(const QString& folder, const QStringList& names) const override;
     QDateTime modified(const QString& path) const override;
     FileStamp stamp(const QString& path) const override;
+    bool isReadOnly(const QString& path) const override;
     std::unique_ptr<QIODevice> open(const QString& path) const override;
     QByteArray read(const QString& path, qint64 limit) const override;
     void write(const QString& path, const QByteArray& bytes) override;

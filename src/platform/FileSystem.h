@@ -50,6 +50,9 @@ public:
 
     virtual FileStamp stamp(const QString& path) const = 0;
 
+    // True for a file that `write` would refuse to replace.
+    virtual bool isReadOnly(const QString& path) const = 0;
+
     // The file, opened for reading. Throws FileError.
     virtual std::unique_ptr<QIODevice> open(const QString& path) const = 0;
 

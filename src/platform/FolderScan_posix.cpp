@@ -19,12 +19,18 @@ struct CloseFolder
 };
 using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
 
-// Calls `take` with every entry but "." and "..".
+bool canBeAddressed(const char* name)
+{
+    return !std::strchr(name, '\\') && QByteArrayView(name).isValidUtf8();
+}
+
+// Calls `take` with every entry but "." and ".." that a path can carry.
 template <class Take>
 void forEachEntry(DIR* folder, const Take& take)
 {
     while (const dirent* entry = folder ? readdir(folder) : nullptr)
-        if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0)
+        if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0 &&
+            canBeAddressed(entry->d_name))
             take(*entry);
 }
 

@@ -20,6 +20,7 @@ public:
     }
     QDateTime modified(const QString& path) const override { return m_disk.modified(path); }
     FileStamp stamp(const QString& path) const override { return m_disk.stamp(path); }
+    bool isReadOnly(const QString& path) const override { return m_disk.isReadOnly(path); }
     std::unique_ptr<QIODevice> open(const QString& path) const override { return m_disk.open(path); }
     QByteArray read(const QString& path, qint64 limit) const override { return m_disk.read(path, limit); }
     void write(const QString& path, const QByteArray& bytes) override

@@ -1,6 +1,7 @@
 #include "savegames/DeleteSaveGames.h"
 
 #include "catalogue/GameSelection.h"
+#include "savegames/SaveGames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +31,7 @@ void purgeClicked(Launcher& launcher)
         Msg::ResultYes)
         return;
     PurgeSaveGames(launcher);
-    launcher.controls.SaveGameList.clear();
+    RefreshSaveGames(launcher); // those that could not be deleted are still there
 }
 
 } // namespace

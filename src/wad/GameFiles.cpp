@@ -84,7 +84,7 @@ GatheredFiles GatherGameFiles(const FileSystem& files, const QString& mainWad,
     for (const QString& name : files.files(folder)) {
         const QString path = folder + u'/' + name;
         if (EndsWith(name, u".wad"_s)) {
-            if (!SameName(path, mainWad))
+            if (path != mainWad)
                 (countMaps(path) > 0 ? withMaps : withoutMaps) << path;
         } else if (EndsWith(name, u".deh"_s) || EndsWith(name, u".ded"_s)) {
             patches << path;

@@ -60,8 +60,9 @@ QString wadReport(Launcher& launcher, const QString& path, EmptyReport empty)
 {
     const FileStamp stamp = launcher.files.stamp(path);
     WadReport& known = launcher.wadReports[path];
-    if (known.text.isEmpty() || known.stamp != stamp) {
-        known = {stamp, runTool(launcher, checkWad, path).value_or(QString())};
+    if (!known.isKnown || known.stamp != stamp) {
+        const std::optional<QString> report = runTool(launcher, checkWad, path);
+        known = {stamp, report.value_or(QString()), report.has_value()};
         if (!known.text.isEmpty() || empty == EmptyReport::Kept)
             keepReport(launcher, known.text);
     }

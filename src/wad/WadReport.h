@@ -7,4 +7,5 @@ struct WadReport
 {
     FileStamp stamp;
     QString text;
+    bool isKnown = false;
 };

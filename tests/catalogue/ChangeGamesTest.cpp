@@ -5,6 +5,7 @@
 #include "catalogue/RenameGame.h"
 #include "savegames/DeleteSaveGames.h"
 #include "tests/support/CommercialGame.h"
+#include "tests/support/ZipMaker.h"
 
 #include <QDir>
 #include <QTest>
@@ -131,6 +132,25 @@ QList<Operation> operations()
     };
 }
 
+// Two zips, of which the one with records and savegames is selected.
+class Zips : public Collection
+{
+public:
+    Zips() : Collection(u"ALPHA"_s)
+    {
+        const QByteArray wad = TemporaryInstallation::wad("PWAD", {u"MAP01"_s, u"THINGS"_s});
+        installation.add(u"VYKArchives/Pack.ZIP"_s, ZipMaker().add("pack.wad", wad).bytes());
+        installation.add(u"VYKArchives/other.zip"_s, ZipMaker().add("two.wad", wad).bytes());
+        for (const QString& file :
+             {u"VYKLaunch/GameInfo/Zips/pack.vykm"_s, u"VYKLaunch/Zips/Checks/Pack.vykchk"_s,
+              u"VYKLaunch/GameInfo/Save/Zip/pack.vyks"_s, u"UserSG/pack/savegame/KeldraxSav0.vyksg"_s})
+            installation.add(file);
+        OptionUdirClick(launcher, zipLibrary);
+        selectGame(u"PACK"_s);
+        before = contents();
+    }
+};
+
 // Every file of the games that was there has its bytes somewhere in the games.
 bool keepsEveryFile(const Collection& games)
 {
@@ -225,6 +245,7 @@ private Q_SLOTS:
             {u"c:x"_s, u" Renaming error"_s},
             {u"what?"_s, u" Renaming error"_s},
             {u"aux.wad"_s, u" Renaming error"_s},
+            {u".Installing"_s, u" Renaming error"_s},
             {QString(300, u'x'), u" Renaming error"_s},
         };
         for (const auto& [name, title] : rows) {
@@ -296,6 +317,22 @@ private Q_SLOTS:
         }
     }
 
+    // A linked folder is no more than the link, and a name with a '\' leads nowhere else.
+    void linksAndBackslashes()
+    {
+        Collection games(u"ALPHA"_s);
+        games.installation.add(u"Elsewhere/Pwads/kept.wad"_s, "kept");
+        games.installation.add(u"VYKGames/..\\../Pwads/x.wad"_s);
+        QVERIFY(QFile::link(games.path(u"Elsewhere"_s), games.path(u"VYKGames/Linked"_s)));
+        OptionUdirClick(games.launcher, installedGames);
+        QVERIFY(!games.launcher.controls.PwadList.entries().join(u' ').contains(u'\\'));
+        games.selectGame(u"LINKED"_s);
+        games.prompts.expectMessage(Msg::ResultYes);
+        RemoveInstalledGame(games.launcher);
+        QVERIFY(!games.installation.exists(u"VYKGames/Linked"_s));
+        QCOMPARE(games.installation.read(u"Elsewhere/Pwads/kept.wad"_s), "kept");
+    }
+
     // A game that went while it was listed leaves the lists empty, and no other folder is taken for it.
     void vanishedGame()
     {
@@ -342,6 +379,102 @@ private Q_SLOTS:
         }
     }
 
+    void renamingZips()
+    {
+        Zips zips;
+        for (const QString& name : {u"OTHER"_s, u"a/b"_s}) {
+            zips.prompts.expectName(name);
+            zips.prompts.expectMessage();
+            RenameArchive(zips.launcher);
+            QCOMPARE(zips.prompts.texts.last(), u" Illegal naming convention detected. "_s);
+            QVERIFY(zips.contents() == zips.before);
+            zips.selectGame(u"PACK"_s);
+        }
+        zips.prompts.expectName(u"pack"_s); // the same name, spelled otherwise: its records stay
+        RenameArchive(zips.launcher);
+        QCOMPARE(zips.gone(), QStringList{u"VYKArchives/Pack.ZIP"_s});
+        zips.prompts.expectName(u"New & old"_s);
+        RenameArchive(zips.launcher);
+        QCOMPARE(zips.added(), QStringList{u"VYKArchives/New & old.zip"_s});
+        QCOMPARE(zips.gone(),
+                 (QStringList{u"VYKArchives/Pack.ZIP"_s, u"VYKLaunch/GameInfo/Save/Zip/pack.vyks"_s,
+                              u"VYKLaunch/GameInfo/Zips/pack.vykm"_s}));
+        QCOMPARE(zips.launcher.controls.PwadList.selectedText(), u"NEW & OLD"_s);
+        QCOMPARE(zips.launcher.controls.MapList.entries(), QStringList{u"MAP01"_s});
+    }
+
+    // A zip that went meanwhile has no files: those of the last one are not taken for its own.
+    void vanishedZip()
+    {
+        Zips zips;
+        QVERIFY(QFile::remove(zips.path(u"VYKArchives/other.zip"_s)));
+        zips.prompts.expectMessage();
+        zips.selectGame(u"OTHER"_s);
+        QCOMPARE(zips.prompts.titles.last(), u" File error"_s);
+        QVERIFY(zips.launcher.controls.PwadShowlist.isEmpty());
+        QVERIFY(zips.launcher.selection.SelectedGameFile.isEmpty());
+    }
+
+    // The savegames go with the zip, unless an installed game has them too.
+    void deletingZips()
+    {
+        for (const bool installedToo : {false, true}) {
+            Zips zips;
+            if (installedToo)
+                zips.addWad(u"VYKGames/Same/Pwads/PACK.wad"_s, {u"MAP01"_s});
+            zips.prompts.expectMessage(Msg::ResultNo);
+            DeleteArchive(zips.launcher);
+            QVERIFY(zips.gone().isEmpty());
+            zips.prompts.expectMessage(Msg::ResultYes);
+            DeleteArchive(zips.launcher);
+            QVERIFY(!zips.installation.exists(u"VYKArchives/Pack.ZIP"_s));
+            QVERIFY(!zips.installation.exists(u"VYKLaunch/GameInfo/Save/Zip/pack.vyks"_s));
+            QVERIFY(!zips.installation.exists(u"VYKLaunch/Zips/Checks/Pack.vykchk"_s));
+            QCOMPARE(zips.installation.exists(u"UserSG/pack"_s), installedToo);
+            QVERIFY(zips.installation.exists(u"UserSG/main"_s));
+            QCOMPARE(zips.launcher.controls.PwadList.entries(), QStringList{u"OTHER"_s});
+            QCOMPARE(zips.launcher.controls.PwadShowlist.entries(), QStringList{u"two.wad"_s});
+        }
+    }
+
+    void failingCallsOfZips()
+    {
+        using Kind = FileError::Kind;
+        const auto rename = [](Zips& zips) {
+            zips.prompts.expectName(u"New"_s);
+            RenameArchive(zips.launcher);
+        };
+        const auto remove = [](Zips& zips) {
+            zips.prompts.expectMessage(Msg::ResultYes);
+            DeleteArchive(zips.launcher);
+        };
+        const QString inUse = u"       \r\n  the file may be in use by another program."_s;
+        const struct
+        {
+            std::function<void(Zips&)> run;
+            QString denied, other;
+        } rows[] = {{rename, u"Unable to rename the selected item in this list,"_s + inUse,
+                     u" Illegal naming convention detected. "_s},
+                    {remove,
+                     u"Unable to remove the selected item from this list,       \r\n"
+                     "   the file may be in use by another program."_s,
+                     u"Unable to remove the selected item from this list,       \r\n"
+                     "   the file may be in use by another program."_s}};
+        for (const auto& row : rows) {
+            for (const Kind kind : {Kind::InUse, Kind::Other}) {
+                for (int call = 1; call <= 2; ++call) { // the zip itself, then a record
+                    Zips zips;
+                    zips.prompts.allowMessages = true;
+                    zips.files.failAt(call, kind);
+                    row.run(zips);
+                    QVERIFY(zips.prompts.texts.contains(kind == Kind::InUse ? row.denied : row.other));
+                    QCOMPARE(zips.gone().contains(u"VYKArchives/Pack.ZIP"_s), call == 2);
+                    QVERIFY(zips.installation.exists(u"VYKArchives/other.zip"_s));
+                }
+            }
+        }
+    }
+
     void deletingSavegames()
     {
         Collection games(u"ALPHA"_s);
@@ -359,6 +492,13 @@ private Q_SLOTS:
         QCOMPARE(games.launcher.controls.MapList.selectedText(), u"MAP01"_s);
         QCOMPARE(games.launcher.controls.SaveGameList.count(), 1);
 
+        games.files.failOn(u"UserSG/main"_s, FileError::Kind::InUse);
+        games.prompts.expectMessage();
+        PurgeSaveGames(games.launcher);
+        QCOMPARE(games.prompts.titles.last(), u" Access error "_s);
+        QVERIFY(games.installation.exists(u"VYKGames/Alpha/savegame/0"_s));
+
+        games.files.failOn({}, FileError::Kind::InUse);
         games.prompts.expectMessage(Msg::ResultYes);
         games.launcher.controls.ButPurge[0].clicked();
         QVERIFY(!games.installation.exists(u"UserSG/main"_s));

@@ -4,6 +4,7 @@
 #include "catalogue/GameRecords.h"
 #include "catalogue/ScriptedMapMode.h"
 #include "launch/LaunchButton.h"
+#include "platform/Paths.h"
 #include "savegames/SaveGames.h"
 #include "tests/support/CommercialGame.h"
 
@@ -272,6 +273,28 @@ private Q_SLOTS:
         QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"w3.wad"_s);
         LaunchSelectedGame(launcher);
         QVERIFY(game.processes.lastCommandLine().contains(u"-udir \"Stra\u00dfe\" "_s));
+    }
+
+    void doubleClicks()
+    {
+        CommercialGame game;
+        Controls& controls = game.launcher.controls;
+        game.installation.add(u"VYKGames/Texts/Pwads/SndInfo"_s);
+        game.installation.add(u"VYKGames/Texts/Pwads/read me.txt"_s);
+        game.launcher.settings.WadFilesOnly = false;
+        OptionUdirClick(game.launcher, installedGames);
+        const QString folder = game.path(u"VYKGames/Texts/Pwads/"_s);
+        const auto doubleClick = [&](const QString& file) {
+            controls.PwadShowlist.click(controls.PwadShowlist.find(file));
+            controls.PwadShowlist.doubleClicked();
+        };
+        doubleClick(u"read me.txt"_s);
+        QCOMPARE(game.prompts.opened, QStringList{folder + u"read me.txt"_s});
+        doubleClick(u"sndinfo"_s);
+        QCOMPARE(game.processes.lastCommandLine(), u"notepad.exe \""_s + NativePath(folder) + u"SndInfo\""_s);
+        game.processes.startResult = false; // there is no such editor here
+        doubleClick(u"sndinfo"_s);
+        QCOMPARE(game.prompts.opened.last(), folder + u"SndInfo"_s);
     }
 
     void clearingWhatIsRemembered()

@@ -180,6 +180,28 @@ private Q_SLOTS:
         QVERIFY(games.contains(u"Auto/Gwads/auto.wad"_s) && games.contains(u"Auto/notes.txt"_s));
     }
 
+    // What cannot be replaced stays, and so does everything else.
+    void intoAGameThatResists()
+    {
+        for (const bool readOnly : {true, false}) {
+            Library library;
+            const QString file = u"VYKGames/Auto/Gwads/pack.deh"_s;
+            if (readOnly)
+                QVERIFY(QFile::setPermissions(library.path(file), QFile::ReadOwner));
+            else
+                library.installation.add(u"VYKGames/Auto/Gwads/read me.txt/mine"_s, "kept");
+            const auto before = library.games();
+            OptionUdirClick(library.launcher, zipLibrary);
+            library.prompts.expectName(u"Auto"_s);
+            library.prompts.expectMessage();
+            InstallArchiveAsGwad(library.launcher);
+            QCOMPARE(library.prompts.texts.last(),
+                     readOnly ? u" Read only error, file can't be overwritten      "_s
+                              : u"ERROR: Unknown error     "_s);
+            QVERIFY(library.games() == before);
+        }
+    }
+
     void badZips()
     {
         Library library;
@@ -289,12 +311,14 @@ private Q_SLOTS:
         QDir(library.path(work)).rename(u"hand"_s, u"games/Hand"_s);
         library.installation.add(work + u"games/Auto/Gwads/auto.wad"_s, "replaced");
         library.installation.add(work + u"gone/Old/Pwads/old.wad"_s, "removed");
+        library.installation.add(work + u"Pwads/own.wad"_s, "somebody's game of that name");
         QDir(library.path(work)).mkpath(u"files/Auto/Gwads"_s);
         QVERIFY(QFile::rename(library.path(u"VYKGames/Auto/Gwads/pack.deh"_s),
                               library.path(work + u"files/Auto/Gwads/pack.deh"_s)));
         RecoverGames(library.files, library.launcher.paths.GamesPath);
-        QVERIFY(library.games() == before);
-        QVERIFY(!library.installation.exists(work));
+        auto games = library.games();
+        QCOMPARE(games.take(u".installing/Pwads/own.wad"_s), "somebody's game of that name");
+        QVERIFY(games == before);
     }
 };
 
