@@ -30,6 +30,19 @@ bool fillFromZipFolder(Launcher& launcher, GameStaging& staging)
     return true;
 }
 
+// The name to install the selected zip under; nothing when there is none, or the zip cannot be opened.
+std::optional<QString> askInstallName(Launcher& launcher, const QString& caption, const QString& frame)
+{
+    const QString archive = launcher.settings.SelectedArchive;
+    if (!OpenArchive(launcher, archive))
+        return std::nullopt;
+    const std::optional<QString> name =
+        AskGameName(launcher, {.caption = caption, .frame = frame, .button = u"OK"_s, .name = archive},
+                    {.title = conversionError});
+    // Another launcher may have put another zip into the folder meanwhile.
+    return name && OpenArchive(launcher, archive) ? name : std::nullopt;
+}
+
 bool isEmptyFolder(const FileSystem& files, const QString& folder)
 {
     return files.files(folder).isEmpty() && files.folders(folder).isEmpty();
@@ -55,16 +68,8 @@ void ConnectArchiveInstallation(Launcher& launcher)
 
 void InstallArchiveAsPwad(Launcher& launcher)
 {
-    if (!OpenArchive(launcher, launcher.settings.SelectedArchive))
-        return;
-    const std::optional<QString> name = AskGameName(launcher,
-                                                    {.caption = u" Install to Game List"_s,
-                                                     .frame = u" Name "_s,
-                                                     .button = u"OK"_s,
-                                                     .name = launcher.settings.SelectedArchive},
-                                                    {.title = conversionError});
-    if (!name ||
-        !OpenArchive(launcher, launcher.settings.SelectedArchive)) // another launcher may use the folder
+    const std::optional<QString> name = askInstallName(launcher, u" Install to Game List"_s, u" Name "_s);
+    if (!name)
         return;
     const QString game = launcher.paths.GamesPath + *name;
     if (launcher.files.folderExists(game + u"/Pwads"_s)) {
@@ -96,16 +101,9 @@ void InstallArchiveAsPwad(Launcher& launcher)
 
 void InstallArchiveAsGwad(Launcher& launcher)
 {
-    if (!OpenArchive(launcher, launcher.settings.SelectedArchive))
-        return;
-    const std::optional<QString> name = AskGameName(launcher,
-                                                    {.caption = u" Install to Games List"_s,
-                                                     .frame = u"Games List Name"_s,
-                                                     .button = u"OK"_s,
-                                                     .name = launcher.settings.SelectedArchive},
-                                                    {.title = conversionError});
-    if (!name ||
-        !OpenArchive(launcher, launcher.settings.SelectedArchive)) // another launcher may use the folder
+    const std::optional<QString> name =
+        askInstallName(launcher, u" Install to Games List"_s, u"Games List Name"_s);
+    if (!name)
         return;
     const auto fill = [&launcher](GameStaging& staging) { return fillFromZipFolder(launcher, staging); };
     if (InstallAsGwad(launcher, *name, fill) != Installed::Done)
