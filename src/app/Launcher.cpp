@@ -9,7 +9,6 @@
 #include "catalogue/GameSelection.h"
 #include "catalogue/InstallArchive.h"
 #include "catalogue/InstallGame.h"
-#include "catalogue/RecordRemoval.h"
 #include "catalogue/RemoveGame.h"
 #include "catalogue/RenameGame.h"
 #include "catalogue/ScriptedMapMode.h"
@@ -17,6 +16,7 @@
 #include "launch/LaunchButton.h"
 #include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
+#include "options/LaunchPreferences.h"
 #include "options/OptionTabs.h"
 #include "options/Skills.h"
 #include "savegames/DeleteSaveGames.h"
@@ -45,7 +45,7 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectConversion(*this);
     ConnectRenaming(*this);
     ConnectRemoval(*this);
-    ConnectRecordRemoval(*this);
+    ConnectLaunchPreferences(*this);
     ConnectScriptedMapMode(*this);
     ConnectMapList(*this);
     ConnectSaveGames(*this);

@@ -6,8 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int greyed = 2;
-
 QString records(const InstallationPaths& paths)
 {
     return paths.LaunchPath + u"GameInfo/"_s;
@@ -24,25 +22,6 @@ void clearFolder(FileSystem& files, const QString& folder)
 }
 
 } // namespace
-
-void ConnectRecordRemoval(Launcher& launcher)
-{
-    auto& boxes = launcher.controls.chkLaunchPrefs;
-    boxes[0].clicked = [&launcher, &box = boxes[0]] {
-        if (box.value() == greyed)
-            return;
-        launcher.settings.RememberLastMap = box.ticked();
-        if (!box.ticked())
-            ClearRememberedMaps(launcher);
-    };
-    boxes[1].clicked = [&launcher, &box = boxes[1]] {
-        if (box.value() == greyed)
-            return;
-        launcher.settings.RememberLastSavegame = box.ticked();
-        if (!box.ticked())
-            ClearRememberedSavegames(launcher);
-    };
-}
 
 void DeleteRecordsOfGame(FileSystem& files, const InstallationPaths& paths, const QString& name, bool isGwad)
 {

@@ -4,9 +4,6 @@
 
 // Deleting the records that GameRecords writes.
 
-// The check boxes "Remember last map" and "Remember last savegame": clearing one deletes what it remembered.
-void ConnectRecordRemoval(Launcher& launcher);
-
 // The records of an installed game that is gone under this name, and of a zip. Each throws FileError.
 void DeleteRecordsOfGame(FileSystem& files, const InstallationPaths& paths, const QString& name, bool isGwad);
 void DeleteRecordsOfArchive(FileSystem& files, const InstallationPaths& paths, const QString& name);

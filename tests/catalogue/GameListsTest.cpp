@@ -305,10 +305,15 @@ private Q_SLOTS:
         for (const QString& record : {u"Iwads/a.vykm"_s, u"Pwads/a.vykm"_s, u"Zips/a.vykm"_s,
                                       u"Gwads/a.vykm"_s, u"Gwads/a.vykg"_s, u"Save/Gwads/a/b.vyks"_s})
             game.installation.add(info + record);
+        const QStringList all = game.installation.tree();
+        controls.chkLaunchPrefs[0].setValue(2); // greyed
+        QCOMPARE(game.installation.tree(), all);
         controls.chkLaunchPrefs[0].setTicked(false);
         QCOMPARE(game.installation.tree().filter(info),
                  (QStringList{info + u"Gwads/a.vykg"_s, info + u"Save/Gwads/a/b.vyks"_s}));
         QVERIFY(!game.launcher.settings.RememberLastMap);
+        controls.chkLaunchPrefs[4].setTicked(!game.launcher.settings.WadFilesOnly);
+        QCOMPARE(game.launcher.settings.WadFilesOnly, controls.chkLaunchPrefs[4].ticked());
         controls.chkLaunchPrefs[1].setTicked(false);
         QCOMPARE(game.installation.tree().filter(info), QStringList{info + u"Gwads/a.vykg"_s});
     }
