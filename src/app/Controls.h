@@ -97,5 +97,7 @@ struct Controls
     std::array<Control, 3> FrameGlobal; // 0 the panel, 1 the command line, 2 the edit mode
     Button SelButton;
     TextBox edCustom, LightText;
+    TextBox CommandPreview; // the command line that Launch would start, or why there is none
+    Button CopyPreview;
     Button LaunchButton;
 };

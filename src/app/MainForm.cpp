@@ -10,6 +10,7 @@
 #include "ui/TitleView.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -142,6 +143,11 @@ void MainForm::showIwadForm()
         m_iwadForm = new IwadForm(*m_launcher, this);
     m_iwadForm->show();
     refresh();
+}
+
+void MainForm::copyText(const QString& text)
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 void MainForm::endProgram()

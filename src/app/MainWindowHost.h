@@ -36,6 +36,10 @@ public:
 
     virtual void showIwadForm() = 0; // modal
 
+    virtual void copyText(const QString& text) = 0; // to the clipboard
+
+    virtual int logicalDpi() const = 0; // horizontal, of the screen; 96 where nothing is scaled
+
     // Ends the program; the call returns and the caller must do nothing more.
     virtual void endProgram() = 0;
 };

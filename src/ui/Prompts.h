@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -40,6 +41,12 @@ struct NameQuestion
     QString name;    // to start with
 };
 
+struct CleanupQuestion
+{
+    QString summary; // what removing the model packs would delete
+    bool toolTips;   // whether the controls of the dialog explain themselves
+};
+
 // Something that takes a while is shown while this object lives.
 class Progress
 {
@@ -68,6 +75,13 @@ public:
 
     // A password; empty when the player has none.
     virtual QString askPassword(const QString& text) = 0;
+
+    // Asks whether to remove the model packs. True when the player ticked "Remove all models" and went on.
+    virtual bool askModelCleanup(const CleanupQuestion& question) = 0;
+
+    // The last question before model packs are removed; true means go on. `neverAgain` is told at once
+    // whenever the player ticks or unticks "Don't ask this in the future".
+    virtual bool confirmModelCleanup(const std::function<void(bool)>& neverAgain) = 0;
 
     // Says what is being done, with a way to cancel it.
     virtual std::unique_ptr<Progress> showProgress(const QString& what) = 0;

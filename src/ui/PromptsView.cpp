@@ -120,6 +120,16 @@ QString PromptsView::askPassword(const QString& text)
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
+bool PromptsView::askModelCleanup(const CleanupQuestion&)
+{
+    return false;
+}
+
+bool PromptsView::confirmModelCleanup(const std::function<void(bool)>&)
+{
+    return false;
+}
+
 std::unique_ptr<Progress> PromptsView::showProgress(const QString& what)
 {
     return std::make_unique<ProgressView>(what, over());

@@ -15,6 +15,8 @@ public:
     QString chooseFile(const FileQuestion& question) override;
     std::optional<QString> askName(const NameQuestion& question) override;
     QString askPassword(const QString& text) override;
+    bool askModelCleanup(const CleanupQuestion& question) override;
+    bool confirmModelCleanup(const std::function<void(bool)>& neverAgain) override;
     std::unique_ptr<Progress> showProgress(const QString& what) override;
     bool openWithShell(const QString& target) override;
 

@@ -29,6 +29,8 @@ public:
         if (onIwadForm)
             onIwadForm();
     }
+    void copyText(const QString& text) override { copied = text; }
+    int logicalDpi() const override { return dpi; }
     void endProgram() override { record(u"endProgram"); }
 
     QSize screen{1920, 1080};
@@ -37,6 +39,8 @@ public:
     bool normal = true;
     bool shown = false;
     FontSetting font;
+    QString copied;
+    int dpi = 96;
     QStringList calls;
     std::function<void()> onIwadForm; // what the player does in the dialog
 

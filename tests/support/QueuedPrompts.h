@@ -11,7 +11,8 @@ class QueuedPrompts : public Prompts
 public:
     ~QueuedPrompts() override
     {
-        const auto left = m_answers.size() + m_files.size() + m_names.size() + m_passwords.size();
+        const auto left = m_answers.size() + m_files.size() + m_names.size() + m_passwords.size() +
+                          m_cleanups.size() + m_confirmations.size();
         if (left > 0)
             qFatal("%lld expected questions were not asked", static_cast<long long>(left));
     }
@@ -24,6 +25,11 @@ public:
     // The next name prompt is answered with `name`; nothing cancels.
     void expectName(const std::optional<QString>& name) { m_names << name; }
     void expectPassword(const QString& password) { m_passwords << password; }
+
+    // The next model cleanup dialog is answered with `go`.
+    void expectModelCleanup(bool go) { m_cleanups << go; }
+    // The next confirmation is answered with `go`, after `tick` was ticked or not.
+    void expectConfirmation(bool go, bool tick = false) { m_confirmations << std::pair(go, tick); }
 
     int MsgboxPos(const QString& text, int style, const QString& title) override
     {
@@ -60,6 +66,24 @@ public:
         return m_passwords.takeFirst();
     }
 
+    bool askModelCleanup(const CleanupQuestion& question) override
+    {
+        cleanupSummaries << question.summary;
+        if (m_cleanups.isEmpty())
+            qFatal("unexpected model cleanup: %s", qPrintable(question.summary));
+        return m_cleanups.takeFirst();
+    }
+
+    bool confirmModelCleanup(const std::function<void(bool)>& neverAgain) override
+    {
+        if (m_confirmations.isEmpty())
+            qFatal("unexpected confirmation");
+        const auto [go, tick] = m_confirmations.takeFirst();
+        if (tick)
+            neverAgain(true);
+        return go;
+    }
+
     std::unique_ptr<Progress> showProgress(const QString&) override
     {
         struct Steps : Progress
@@ -78,7 +102,7 @@ public:
     }
 
     // What was asked, in order.
-    QStringList texts, titles, opened;
+    QStringList texts, titles, opened, cleanupSummaries;
     QList<int> styles;
     QList<FileQuestion> fileQuestions;
     QList<NameQuestion> nameQuestions;
@@ -91,4 +115,6 @@ private:
     QStringList m_files;
     QList<std::optional<QString>> m_names;
     QStringList m_passwords;
+    QList<bool> m_cleanups;
+    QList<std::pair<bool, bool>> m_confirmations;
 };

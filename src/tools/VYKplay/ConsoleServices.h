@@ -17,6 +17,8 @@ public:
     QString chooseFile(const FileQuestion&) override { return {}; }
     std::optional<QString> askName(const NameQuestion& question) override { return question.name; }
     QString askPassword(const QString& text) override;
+    bool askModelCleanup(const CleanupQuestion&) override { return false; }
+    bool confirmModelCleanup(const std::function<void(bool)>&) override { return false; }
     std::unique_ptr<Progress> showProgress(const QString& what) override;
     bool openWithShell(const QString&) override { return false; }
 
@@ -43,6 +45,8 @@ public:
     bool isReachableAt(QPoint) const override { return false; }
     void refresh() override {}
     void showIwadForm() override {}
+    void copyText(const QString&) override {}
+    int logicalDpi() const override { return 96; }
     void endProgram() override {}
 };
 
