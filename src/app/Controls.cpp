@@ -185,6 +185,8 @@ Controls::Controls()
     for (const auto& row : others)
         place(row.control, row.caption, row.look);
 
+    LightText.enabled = false; // the edit mode's
+    SkyOpt[0].enabled = SkyOpt[1].enabled = false; // their pack has not been looked for yet
     Sep3.isSeparator = sep1.isSeparator = true;
 
     Corpse.text = u"9"_s;
@@ -206,15 +208,4 @@ Controls::Controls()
     SkillsLevel[1].startAs(0);
 
     LaunchButton.colour = Colour::Accent;
-    MapList.toolTip = u"  Select map for startup.  "_s;
-    SaveGameList.toolTip = u"  Right click on savegame for tasks menu.  "_s;
-    Home[0].toolTip = u"  Keldrax Website.  "_s;
-    Home[3].toolTip = u"  Keldrax model pack downloads.  "_s;
-    TitlePic.toolTip = u"  Double click to cycle through themes.  "_s;
-    ImageCM.toolTip = u" Toggle Keldrax scripted maps if installed. "_s;
-    edFilter.toolTip = u"Find a game by a part of its name (Ctrl+F)."_s;
-    AuxButton[0].toolTip =
-        u"Install a pwad to the games list, either\r\nzipped or unzipped files can be installed."_s;
-    AuxButton[5].toolTip = u"Iwad locations used by Keldrax."_s;
-    ExpLabel.toolTip = u" Time it takes for grenade to explode in tics "_s;
 }

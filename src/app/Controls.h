@@ -10,6 +10,10 @@ struct WindowControl : Control
     bool compact = false;      // default mode: without the command panel and its height
     bool saveGamesTall = true; // the boundary between the game files and the savegames
 
+    // Where a screen of 120 dots per inch has two of its parts, in 1/1440 inch; 0 where the layout has them.
+    int topOfVYKFrame = 0;
+    int leftOfImageCM = 0;
+
     // The player dropped files on the window, one of them at least a WAD or a zip: their paths, with '/'.
     std::function<void(const QStringList& paths)> filesDropped;
 };
@@ -93,7 +97,7 @@ struct Controls
 
     // The strip below the tabs
     std::array<ListBox, 2> SkillsLevel;
-    Control SkillFrame, StartFrame, ChkFrame;
+    Control SkillFrame, StartFrame, ChkFrame, VYKFrame;
     std::array<Control, 3> FrameGlobal; // 0 the panel, 1 the command line, 2 the edit mode
     Button SelButton;
     TextBox edCustom, LightText;

@@ -13,12 +13,20 @@
 #include "catalogue/RenameGame.h"
 #include "catalogue/ScriptedMapMode.h"
 #include "catalogue/TaskMenus.h"
+#include "launch/CommandPreview.h"
 #include "launch/LaunchButton.h"
 #include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
+#include "options/EditMode.h"
+#include "options/EffectModes.h"
+#include "options/GraphicsOptions.h"
 #include "options/LaunchPreferences.h"
+#include "options/ModelOptions.h"
+#include "options/NoMonsters.h"
 #include "options/OptionTabs.h"
 #include "options/Skills.h"
+#include "options/SoundOptions.h"
+#include "options/Spinners.h"
 #include "savegames/DeleteSaveGames.h"
 #include "savegames/SaveGames.h"
 #include "wad/MapList.h"
@@ -54,5 +62,13 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectOptionTabs(*this);
     ConnectDisplayMode(*this);
     ConnectDeveloperSwitches(*this);
+    ConnectEffectModes(*this);
+    ConnectGraphicsOptions(*this);
+    ConnectModelOptions(*this);
+    ConnectSoundOptions(*this);
+    ConnectSpinners(*this);
+    ConnectNoMonsters(*this);
+    ConnectEditMode(*this);
     ConnectLaunchButton(*this);
+    ConnectCommandPreview(*this);
 }

@@ -8,13 +8,14 @@
 #include "catalogue/Selection.h"
 #include "iwads/IwadPaths.h"
 #include "launch/LaunchState.h"
-#include "options/ModelPacks.h"
+#include "options/PackFacts.h"
 #include "platform/FileSystem.h"
 #include "platform/Processes.h"
 #include "shortcuts/DeleteShortcuts.h"
 #include "ui/Prompts.h"
 #include "wad/WadReport.h"
 
+#include <QDateTime>
 #include <QHash>
 
 struct StartUpState
@@ -53,4 +54,6 @@ struct Launcher
     Selection selection;
     LaunchState launch;
     ModelPacks modelPacks;
+    ResourcePacks resources;
+    QDateTime resolutionRead; // when the engine had written the resolution that is shown
 };

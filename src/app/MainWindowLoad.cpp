@@ -3,13 +3,14 @@
 #include "app/SettingsControls.h"
 #include "app/SettingsLoad.h"
 #include "app/Themes.h"
+#include "app/ToolTips.h"
 #include "catalogue/GameLists.h"
 #include "catalogue/GameStaging.h"
 #include "catalogue/ScriptedMapMode.h"
 #include "options/DisplayMode.h"
-#include "options/PresenceChecks.h"
+#include "options/DisplayResolution.h"
+#include "options/LoadOptions.h"
 #include "platform/Paths.h"
-#include "savegames/SaveGames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,21 +30,6 @@ void recoverGames(Launcher& launcher)
         RecoverGames(launcher.files, launcher.paths.GamesPath);
     } catch (const FileError&) {
         // What an installation that was cut off moved aside stays there until the next one.
-    }
-}
-
-void checkModelPacks(Launcher& launcher)
-{
-    Controls& controls = launcher.controls;
-    Settings& settings = launcher.settings;
-    const bool smokeAllowed = settings.GunSmoke && !settings.BasicDoom;
-    controls.Smoke[0].enabled = controls.Smoke[1].enabled = smokeAllowed;
-
-    launcher.modelPacks = FindModelPacks(launcher.files, launcher.paths);
-    if (!launcher.modelPacks.KelspackInstalled) {
-        settings.KelspackWeapons = settings.KelspackAlternative = false;
-        controls.chkAltModels[1].setTicked(false);
-        controls.chkAltModels[2].setTicked(false);
     }
 }
 
@@ -94,19 +80,6 @@ void reportReset(Launcher& launcher)
         Msg::Ok + Msg::SystemModal, u" Version update "_s + launcher.settings.LauncherVersion);
 }
 
-void showZeroTimes(Launcher& launcher)
-{
-    Controls& controls = launcher.controls;
-    if (launcher.settings.CorpseSeconds == 0) {
-        controls.TexLabel[1].caption = u"No corpse fade"_s;
-        controls.Corpse.colour = Colour::Accent;
-    }
-    if (launcher.settings.GrenadeTime == 0) {
-        controls.ChkGL.caption = u"Pipebomb launcher"_s;
-        controls.Timeout.colour = Colour::Accent;
-    }
-}
-
 } // namespace
 
 void LoadMainWindow(Launcher& launcher)
@@ -114,6 +87,7 @@ void LoadMainWindow(Launcher& launcher)
     Controls& controls = launcher.controls;
     Settings& settings = launcher.settings;
 
+    CheckDPISettings(launcher);
     if (!launcher.font.FontName.isEmpty())
         launcher.window.checkFont(launcher.font);
     createOwnFolders(launcher);
@@ -121,11 +95,14 @@ void LoadMainWindow(Launcher& launcher)
     LoadSettings(launcher);
     if (launcher.startUp.ShuttingDown)
         return;
-    checkModelPacks(launcher);
+    PrepareOptions(launcher);
     GetTitlePic(launcher);
+    if (!settings.DisableToolTips)
+        ToolTipText(launcher);
     if (!settings.AdvancedOptions)
         DefaultMode(launcher);
     launcher.window.refresh(); // the window has its height from here on
+    GetCurrentRes(launcher);
 
     BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
     if (!launcher.iwads.anyKnown())
@@ -148,11 +125,11 @@ void LoadMainWindow(Launcher& launcher)
     if (launcher.startUp.ShuttingDown)
         return;
 
-    CheckPacksAtLoad(launcher);
+    CheckOptions(launcher);
     controls.SoundFrame[1].visible = !settings.PlaylistFrameHidden;
     reportReset(launcher);
-    showZeroTimes(launcher);
     RestoreScriptedMapMode(launcher);
+    launcher.selection.gamesChanged = false;
     controls.MainForm.caption = launcher.startUp.WindowCaption;
     launcher.window.refresh();
 }
@@ -190,13 +167,13 @@ void ActivateMainWindow(Launcher& launcher)
     if (!launcher.files.fileExists(launcher.paths.LaunchPath + u"music/auto-playlist.vyk"_s))
         controls.chkSound[4].setTicked(false);
     LaunchState& launch = launcher.launch;
-    launch.AfterLaunch = launch.AfterLaunch && RefreshSaveGames(launcher);
+    launch.AfterLaunch = launch.AfterLaunch && Reset(launcher);
 }
 
 void ResizeMainWindow(Launcher& launcher)
 {
     if (launcher.window.isInNormalState() && std::exchange(launcher.launch.AfterLaunch, false))
-        RefreshSaveGames(launcher);
+        Reset(launcher);
 }
 
 bool EnterPressed(Launcher& launcher)

@@ -59,6 +59,8 @@ void ApplySettingsToControls(Settings& settings, Controls& controls)
     if (settings.LightLevel >= lightLevels)
         settings.LightLevel = usualLightLevel;
     const Settings loaded = settings;
+    ReadControlsToSettings(settings, controls); // the handlers see what is shown, not what is still to come
     for (const SettingRow& row : SettingsTable())
         applyRow(row, loaded, controls);
+    ReadControlsToSettings(settings, controls);
 }

@@ -3,6 +3,7 @@
 #include "catalogue/GameSelection.h"
 #include "catalogue/ScriptedMapMode.h"
 #include "catalogue/ScriptedMaps.h"
+#include "options/SpriteOptions.h"
 #include "platform/Paths.h"
 
 #include <algorithm>
@@ -37,14 +38,15 @@ void OptionUdirClick(Launcher& launcher, int view)
     selection.GwadSelected = selection.PwadSelected = false;
     selection.DoomGameSelected = view == doomGames;
     selection.ArchiveSelected = view == zipLibrary;
+    selection.ScriptedMap = false;
+    if (controls.Auto[0].caption == u"KELDRAX SCRIPTED MAP"_s)
+        RestoreSpriteOptions(launcher);
     for (ListBox* list : {&controls.SaveGameList, &controls.PwadShowlist, &controls.MapList})
         list->clear();
 
     controls.OptionUdir.startAs(view);
     for (int i = 0; i < controls.OptionUdir.count(); ++i)
         controls.OptionUdir[i].colour = i == view ? Colour::Accent : Colour::Normal;
-    controls.PwadList.toolTip =
-        controls.chkLaunchPrefs[3].ticked() ? QString() : u" Right click on selected game for tasks menu. "_s;
 
     launcher.settings.ListMode = view;
     controls.ImageCM.visible = ScriptedMapSwitchShown(launcher);

@@ -5,6 +5,8 @@
 #include "catalogue/ScriptedMaps.h"
 #include "catalogue/ZipLibrary.h"
 #include "launch/ShellOpen.h"
+#include "options/GraphicsOptions.h"
+#include "options/SpriteOptions.h"
 #include "platform/FileNames.h"
 #include "platform/Paths.h"
 #include "savegames/SaveGames.h"
@@ -121,12 +123,29 @@ void gameClicked(Launcher& launcher)
     launcher.controls.LaunchButton.enabled = CanLaunchSelection(launcher);
 }
 
+// A scripted map brings its own sprites and graphics.
+void allowOptions(Launcher& launcher)
+{
+    Selection& selection = launcher.selection;
+    selection.ScriptedMap = false;
+    if (launcher.settings.ListMode == installedGames) {
+        const ScriptedMapCheck map =
+            selection.PwadSelected
+                ? IsScriptedMap(launcher.files, launcher.paths, launcher.settings.SelectedGame)
+                : ScriptedMapCheck();
+        selection.ScriptedMap = map.isScriptedMap && map.isComplete;
+        map.isScriptedMap ? KillSpriteOptions(launcher) : RestoreSpriteOptions(launcher);
+    }
+    GreyHiresFrame(launcher);
+}
+
 void gameFileClicked(Launcher& launcher)
 {
     Selection& selection = launcher.selection;
     selection.SelectedGameFile = selection.SelectedGameFolder + launcher.controls.PwadShowlist.selectedText();
     if (!selection.DoomGameSelected)
         selection.SaveGameFolder = savegameFolder(launcher, BaseNameOf(selection.SelectedGameFile));
+    allowOptions(launcher);
     ListWadMaps(launcher, selection.SelectedGameFile);
     ListSaveGames(launcher);
     if (launcher.launch.StartChoice != StartChoice::NewGame)
@@ -169,6 +188,20 @@ void ConnectGameSelection(Launcher& launcher)
 void SelectGameAgain(Launcher& launcher)
 {
     launcher.controls.PwadList.clicked();
+}
+
+void ShowSelectedGameAnew(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    if (controls.PwadList.selected() < 0)
+        return;
+    const QString file = controls.PwadShowlist.selectedText();
+    const QString map = controls.MapList.selectedText();
+    const QString savegame = controls.SaveGameList.selectedText();
+    SelectGameAgain(launcher);
+    controls.PwadShowlist.select(controls.PwadShowlist.find(file));
+    controls.MapList.select(controls.MapList.find(map));
+    controls.SaveGameList.select(controls.SaveGameList.find(savegame));
 }
 
 void ClassifySelectedGame(Launcher& launcher, const QString& name)

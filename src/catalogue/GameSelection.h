@@ -8,6 +8,9 @@ void ConnectGameSelection(Launcher& launcher);
 // Selects the selected game anew, after its files changed.
 void SelectGameAgain(Launcher& launcher);
 
+// The same, with the file, map and savegame that were chosen, as far as they are still there.
+void ShowSelectedGameAnew(Launcher& launcher);
+
 // Whether the installed game `name` loads its files itself (GwadSelected) or not (PwadSelected).
 void ClassifySelectedGame(Launcher& launcher, const QString& name);
 

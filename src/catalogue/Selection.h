@@ -30,6 +30,11 @@ struct Selection
     bool GwadSelected = false;
     bool ArchiveSelected = false;
 
+    // One of the engine maker's scripted maps, with all that it needs, or the engine's own add-on.
+    bool ScriptedMap = false;
+
+    bool gamesChanged = false; // the games tab shows the selected game anew when it comes back
+
     QString SaveGameFolder; // of the selected game
 
     QString LastInstallFolder; // of the file installed last

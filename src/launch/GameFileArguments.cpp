@@ -2,7 +2,6 @@
 
 #include "platform/Paths.h"
 #include "wad/GameFiles.h"
-#include "wad/ToolBridge.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,12 +33,11 @@ QStringList withEnding(const QStringList& paths, const QString& ending)
 
 } // namespace
 
-GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing)
+GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing, const MapCounter& countMaps)
 {
     const Selection& selection = launcher.selection;
     const QString mainWad = selection.SelectedGameFile;
-    const GatheredFiles gathered = GatherGameFiles(
-        launcher.files, mainWad, [&launcher](const QString& path) { return CountWadMaps(launcher, path); });
+    const GatheredFiles gathered = GatherGameFiles(launcher.files, mainWad, countMaps);
     Pieces pieces;
     if (selection.GwadSelected) {
         pieces.add(u"-udir "_s, gathered.userDir);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "launch/LaunchPlan.h"
 
 #include <QStringList>
 
@@ -12,5 +12,5 @@ struct GameFileArguments
 };
 
 // The file arguments of the selected game. `iwadMissing`: the engine does not find the IWAD by itself and
-// then is told every file too.
-GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing);
+// then is told every file too. `countMaps` tells the WADs with maps from those without.
+GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing, const MapCounter& countMaps);

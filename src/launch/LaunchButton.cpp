@@ -1,6 +1,7 @@
 #include "launch/LaunchButton.h"
 
 #include "catalogue/GameSelection.h"
+#include "launch/LaunchCommercialGame.h"
 #include "launch/LaunchInstalledGame.h"
 #include "platform/Paths.h"
 
@@ -15,13 +16,18 @@ void reopenArchive(Launcher& launcher)
     if (!launcher.selection.ArchiveSelected || mainWad.isEmpty() ||
         launcher.files.stamp(mainWad) == launcher.wadReports.value(mainWad).stamp)
         return;
-    Controls& controls = launcher.controls;
-    const QString map = controls.MapList.selectedText();
-    const QString savegame = controls.SaveGameList.selectedText();
-    SelectGameAgain(launcher);
-    controls.PwadShowlist.select(controls.PwadShowlist.find(FileNameOf(mainWad)));
-    controls.MapList.select(controls.MapList.find(map));
-    controls.SaveGameList.select(controls.SaveGameList.find(savegame));
+    ShowSelectedGameAnew(launcher);
+}
+
+bool hasMaps(const Launcher& launcher)
+{
+    return !launcher.controls.MapList.entry(0).isEmpty();
+}
+
+LaunchPlan noLevels(const Launcher& launcher)
+{
+    const QString tail = FileNameOf(launcher.selection.SelectedGameFile) + u" contains no levels.    "_s;
+    return Refused({u"The "_s + tail.toLower(), u" Wad error"_s});
 }
 
 } // namespace
@@ -31,14 +37,19 @@ void ConnectLaunchButton(Launcher& launcher)
     launcher.controls.LaunchButton.clicked = [&launcher] { LaunchSelectedGame(launcher); };
 }
 
+LaunchPlan PlanSelectedGame(Launcher& launcher, const MapCounter& countMaps)
+{
+    if (!hasMaps(launcher))
+        return noLevels(launcher);
+    return launcher.selection.DoomGameSelected ? PlanCommercialGame(launcher)
+                                               : PlanInstalledGame(launcher, countMaps);
+}
+
 LaunchResult LaunchSelectedGame(Launcher& launcher)
 {
     reopenArchive(launcher);
-    if (launcher.controls.MapList.entry(0).isEmpty()) {
-        const QString tail = FileNameOf(launcher.selection.SelectedGameFile) + u" contains no levels.    "_s;
-        launcher.prompts.MsgboxPos(u"The "_s + tail.toLower(), Msg::Ok + Msg::Information, u" Wad error"_s);
-        return LaunchResult::Refused;
-    }
+    if (!hasMaps(launcher))
+        return RunPlan(launcher, noLevels(launcher));
     return launcher.selection.DoomGameSelected ? LaunchCommercialGame(launcher)
                                                : LaunchInstalledGame(launcher);
 }

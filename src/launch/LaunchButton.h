@@ -1,9 +1,11 @@
 #pragma once
 
-#include "app/Launcher.h"
-#include "launch/LaunchCommercialGame.h"
+#include "launch/LaunchPlan.h"
 
 void ConnectLaunchButton(Launcher& launcher);
 
-// Launches what is selected in the view that is shown; a WAD without maps is refused with a message.
+// The launch of what is selected in the view that is shown; a WAD without maps is refused.
+LaunchPlan PlanSelectedGame(Launcher& launcher, const MapCounter& countMaps);
+
+// Works it out and runs it.
 LaunchResult LaunchSelectedGame(Launcher& launcher);

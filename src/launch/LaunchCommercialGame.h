@@ -1,13 +1,10 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "launch/LaunchPlan.h"
 
-enum class LaunchResult {
-    Started,
-    Refused,    // with a message
-    HandedOver, // the arguments are in LaunchState::ShortcutArguments; nothing was written or started
-};
+// The launch of the selected Doom game. The options are read from the controls and the packs looked for
+// again; an option that cannot be used is switched off for this launch, with a notice.
+LaunchPlan PlanCommercialGame(Launcher& launcher);
 
-// Builds the command line of the selected Doom game and starts the engine with it, or hands its arguments
-// over when ShortcutMode is set.
+// Works it out and runs it.
 LaunchResult LaunchCommercialGame(Launcher& launcher);

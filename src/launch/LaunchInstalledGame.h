@@ -1,8 +1,10 @@
 #pragma once
 
-#include "launch/LaunchCommercialGame.h"
+#include "launch/LaunchPlan.h"
 
-// Checks the selected installed game or zip, builds its command line and starts the engine with it, or
-// hands its arguments over when ShortcutMode is set. A game that is not complete is refused with a message
-// before anything is written.
+// The launch of the selected installed game or zip, as PlanCommercialGame is of a Doom game; a game that is
+// not complete is refused. `countMaps` tells the WADs with maps from those without.
+LaunchPlan PlanInstalledGame(Launcher& launcher, const MapCounter& countMaps);
+
+// Works it out and runs it.
 LaunchResult LaunchInstalledGame(Launcher& launcher);

@@ -1,47 +1,33 @@
 #include "launch/LaunchSteps.h"
 
 #include "app/SettingsControls.h"
-#include "app/StartUp.h"
+#include "options/ModelPacks.h"
 #include "options/PresenceChecks.h"
 #include "platform/Paths.h"
-#include "platform/Text.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int minimiseMode = 1;
-constexpr int exitMode = 2;
-
 // Nothing in a command line escapes a double quote: a path that holds one would be split.
-bool canBeQuoted(const Launcher& launcher, const QString& commandLine)
+bool canBeQuoted(const Launcher& launcher, const QString& own, const QStringList& names)
 {
-    const QString own = commandLine.chopped(CustomText(launcher).size());
     const auto carries = [&own](const QString& value) { return value.contains(u'"') && own.contains(value); };
     return own.count(u'"') % 2 == 0 && !carries(NativePath(launcher.launch.SelectedIwadPath)) &&
            !carries(NativePath(launcher.settings.TexturePath)) &&
-           !carries(BaseNameOf(launcher.settings.PlaylistName));
-}
-
-void writeLog(Launcher& launcher, const QString& commandLine)
-{
-    try {
-        WriteLines(launcher.files, launcher.paths.LaunchPath + u"launch.log"_s, {commandLine});
-    } catch (const FileError&) {
-        // The log is for the player to read; a game starts without it.
-    }
+           !carries(BaseNameOf(launcher.settings.PlaylistName)) &&
+           std::ranges::none_of(names, [](const QString& name) { return name.contains(u'"'); });
 }
 
 } // namespace
 
 void PrepareLaunch(Launcher& launcher)
 {
-    const bool forShortcut = launcher.launch.ShortcutMode;
     ReadControlsToSettings(launcher.settings, launcher.controls);
-    const int mode = launcher.settings.LaunchMode;
-    if (!forShortcut && mode >= 0 && mode <= exitMode)
-        launcher.settings.LastLaunchMode = mode;
     CheckGraphicsPacks(launcher);
+    DetectModelPacks(launcher);
     CheckSoundPack(launcher);
     launcher.launch.RicochetOn =
         launcher.controls.chkSound[2].ticked() && !launcher.controls.chkMain[0].ticked();
@@ -49,14 +35,14 @@ void PrepareLaunch(Launcher& launcher)
         launcher.settings.HighResTextures = false;
 }
 
-void CheckKelspackWad(Launcher& launcher)
+void CheckKelspackWad(Launcher& launcher, LaunchPlan& plan)
 {
     Settings& settings = launcher.settings;
     if ((!settings.KelspackWeapons && !settings.KelspackAlternative) || settings.CoreEffects ||
         launcher.files.fileExists(launcher.paths.RootPath + u"/md2/Kelspack/kelspack.wad"_s))
         return;
-    launcher.prompts.MsgboxPos(u" Unable to use kelspack as the kelspack.wad was not found.  "_s,
-                               Msg::Ok + Msg::Information, u" Launch error"_s);
+    plan.notices << LaunchMessage{u" Unable to use kelspack as the kelspack.wad was not found.  "_s,
+                                  u" Launch error"_s};
     settings.KelspackWeapons = settings.KelspackAlternative = false;
 }
 
@@ -84,42 +70,15 @@ QString CustomText(const Launcher& launcher)
     return text.isEmpty() ? QString() : text + u' ';
 }
 
-LaunchResult RefuseUnquotable(Launcher& launcher)
+LaunchPlan FinishPlan(Launcher& launcher, LaunchPlan plan, const QString& commandLine,
+                      const QStringList& names)
 {
-    launcher.launch.AfterLaunch = false;
-    launcher.launch.ShortcutMode = false;
-    launcher.prompts.MsgboxPos(u"A file or folder name holds a double quote, which the engine's command line "
-                               "cannot carry.    \r\nRename it and try again.    "_s,
-                               Msg::Ok + Msg::Information, u" Launch error"_s);
-    return LaunchResult::Refused;
-}
-
-LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine)
-{
-    LaunchState& launch = launcher.launch;
-    const bool forShortcut = std::exchange(launch.ShortcutMode, false);
-    if (!canBeQuoted(launcher, commandLine))
-        return RefuseUnquotable(launcher);
-    if (forShortcut) {
-        launch.ShortcutArguments = commandLine.mid(Engine.size() + 1);
-        launch.AfterLaunch = false;
-        return LaunchResult::HandedOver;
-    }
-
-    writeLog(launcher, commandLine);
-    launcher.settings.WindowTop = launcher.window.position().y();
-    launcher.settings.WindowLeft = launcher.window.position().x();
-    if (launcher.settings.LastLaunchMode == minimiseMode)
-        launcher.window.minimise();
-    launch.RicochetOn = false;
-    if (!launcher.processes.start(commandLine, launcher.paths.RootPath)) {
-        launch.AfterLaunch = false;
-        launcher.window.bringToFront(); // a message over a minimised window may not be seen
-        launcher.prompts.MsgboxPos(u"Cannot execute! The command line was:\r\n"_s + commandLine, Msg::Ok,
-                                   QString());
-        return LaunchResult::Refused;
-    }
-    if (launcher.settings.LastLaunchMode == exitMode)
-        ShutDownLauncher(launcher);
-    return LaunchResult::Started;
+    const QString own = commandLine + StartSwitches(launcher);
+    if (canBeQuoted(launcher, own, names))
+        plan.commandLine = own + CustomText(launcher);
+    else
+        plan.refusal = LaunchMessage{u"A file or folder name holds a double quote, which the engine's command "
+                                     "line cannot carry.    \r\nRename it and try again.    "_s,
+                                     u" Launch error"_s};
+    return plan;
 }

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "app/Launcher.h"
-#include "launch/LaunchCommercialGame.h"
+#include "launch/LaunchPlan.h"
 
-// The steps that every launch shares, in their order.
+// The steps that both kinds of launch share, in their order.
 
 // How a command line begins; relative to the installation root, with a '\' on every system.
 inline const QString Engine = QStringLiteral("Bin\\Keldrax");
 
-// The launch mode and the options go into the settings; what the switches depend on is looked at again.
+// The options go into the settings; the packs that the switches depend on are looked for again.
 void PrepareLaunch(Launcher& launcher);
 
-// The Kelspack weapons need their WAD; without it they are switched off, with a message.
-void CheckKelspackWad(Launcher& launcher);
+// The Kelspack weapons need their WAD; without it they are switched off, with a notice.
+void CheckKelspackWad(Launcher& launcher, LaunchPlan& plan);
 
 // " -Doom2 " for an IWAD that the engine finds by itself, else ` -iwad "path" `; `wad` is the game's WAD
 // whose name is looked for in the standard places.
@@ -24,9 +23,7 @@ QString StartSwitches(const Launcher& launcher);
 // The player's own parameters, as typed, and a blank.
 QString CustomText(const Launcher& launcher);
 
-// Refuses a name that holds a double quote, with a message: no command line can carry it.
-LaunchResult RefuseUnquotable(Launcher& launcher);
-
-// Hands the arguments over in ShortcutMode; otherwise writes launch.log, starts the engine and leaves the
-// launcher as the launch mode says. A start that fails is reported.
-LaunchResult FinishLaunch(Launcher& launcher, const QString& commandLine);
+// The plan of starting `commandLine`, to which the start switches and the custom text come. One of the
+// names on it, of which `names` are some, may hold a double quote, which no command line can carry: refused.
+LaunchPlan FinishPlan(Launcher& launcher, LaunchPlan plan, const QString& commandLine,
+                      const QStringList& names = {});

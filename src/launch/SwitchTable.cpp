@@ -1,5 +1,7 @@
 #include "launch/SwitchTable.h"
 
+#include "options/EffectModes.h"
+#include "options/PresenceChecks.h"
 #include "platform/Paths.h"
 
 #include <array>
@@ -10,8 +12,8 @@ namespace {
 
 using In = const SwitchInputs&;
 
-// The conditions' own words. An option is `on` when its setting is; an option whose pack is missing, so
-// that its box is greyed, counts as off.
+// The conditions' own words. An option is `on` when its setting is; an option whose pack is missing counts
+// as off.
 
 const Settings& on(In in)
 {
@@ -47,17 +49,21 @@ bool monsters(In in)
 {
     return !on(in).NoMonsters;
 }
+bool fx(In in)
+{
+    return FxInForce(in.launcher);
+}
 bool kelspackAllowed(In in)
 {
-    return !on(in).BasicDoom && !on(in).CoreEffects && !on(in).EditMode && !on(in).Fx;
+    return !on(in).BasicDoom && !on(in).CoreEffects && !on(in).EditMode && !fx(in);
 }
 bool skyboxes(In in)
 {
-    return on(in).Skyboxes && box(in).chkGraphics[3].enabled && !on(in).BasicDoom;
+    return on(in).Skyboxes && in.launcher.resources.skyboxes && !on(in).BasicDoom;
 }
 bool consoleCommands(In in)
 {
-    return !on(in).BasicDoom && (!commercial(in) || !on(in).Fx);
+    return !on(in).BasicDoom && (!commercial(in) || !fx(in));
 }
 bool ricochets(In in)
 {
@@ -84,10 +90,14 @@ bool playlistExists(In in, const QString& name)
 {
     return !name.isEmpty() && in.launcher.files.fileExists(playlistFile(in, name));
 }
+bool texturesUsed(In in)
+{
+    return HighResTexturesUsed(in.launcher);
+}
 bool ownTextureFolder(In in)
 {
     const QString location = WithSlashes(box(in).HiResText.text.trimmed());
-    return on(in).HighResTextures && (commercial(in) || !on(in).BasicDoom) &&
+    return texturesUsed(in) && (commercial(in) || !on(in).BasicDoom) &&
            !SameName(location, in.launcher.paths.RootPath + u"/Data/Textures"_s) &&
            in.launcher.files.folderExists(on(in).TexturePath);
 }
@@ -186,8 +196,8 @@ constexpr Row rows[] = {
     {Switch::Replacements, u"-am ", [](In in) { return !on(in).BasicDoom && !on(in).CoreEffects && on(in).TovrensReplacements
         && box(in).chkAltModels[3].ticked() && box(in).chkAltModels[3].enabled; }},
     {Switch::ScriptedModels, u"-am ", [](In in) { return in.scriptedMap && in.scriptedMapModels; }},
-    {Switch::NoPatches, u"-np ", [](In in) { return notScripted(in) && !(on(in).HighResPatches && box(in).chkGraphics[4].enabled); }},
-    {Switch::NoTextures, u"-nht ", [](In in) { return notScripted(in) && !on(in).HighResTextures; }},
+    {Switch::NoPatches, u"-np ", [](In in) { return notScripted(in) && !(on(in).HighResPatches && in.launcher.resources.patches); }},
+    {Switch::NoTextures, u"-nht ", [](In in) { return notScripted(in) && !texturesUsed(in); }},
     {Switch::TextureFolder, u"-td \"", ownTextureFolder, [](In in) { return quoted(NativePath(on(in).TexturePath)); }},
     {Switch::NoSound, u"-nosound ", [](In in) { return !sound(in); }},
     {Switch::SoundPack, u"-data hv_doom_sfx.wad ", [](In in) { return sound(in) && on(in).HiResSoundPack && box(in).chkSound[6].enabled; }},
@@ -204,7 +214,7 @@ constexpr Row rows[] = {
     {Switch::IgnorePlaylist, u"-upm ", [](In in) { return music(in) && on(in).IgnorePlaylistIfCustomMusic && box(in).chkSound[10].enabled; }},
     {Switch::FmodMidi, u"-FMODmidi ", [](In in) { return music(in) && on(in).ForceFmodMidi && box(in).chkSound[9].enabled; }},
     {Switch::Boom, u"-boom ", [](In in) { return in.wadCheckResult == 3 && !on(in).EditMode; }},
-    {Switch::CoreEffects, u"-xa -spf ", [](In in) { return !on(in).BasicDoom && !on(in).Fx
+    {Switch::CoreEffects, u"-xa -spf ", [](In in) { return !on(in).BasicDoom && !fx(in)
         && (commercial(in) ? !box(in).ChkModelOpts[3].enabled || on(in).CoreEffects : on(in).CoreEffects && notScripted(in)); }},
     {Switch::NoForcedModels, u"-noamwds ", [](In in) { return !on(in).BasicDoom && on(in).NoForcedModels && box(in).ChkModelOpts[1].enabled && notScripted(in); }},
     {Switch::ExtraFx, u"-fx ", [](In in) { return !on(in).BasicDoom && on(in).ExtraFx && box(in).chkEffects[3].enabled && notScripted(in); }},
@@ -219,7 +229,7 @@ constexpr Row rows[] = {
     {Switch::Grenades, u"-gnd ", [](In in) { return grenades(in) && on(in).GrenadeTime != 0; }, [](In in) { return number(on(in).GrenadeTime); }},
     {Switch::Pipebombs, u"-pbm ", [](In in) { return grenades(in) && on(in).GrenadeTime == 0; }},
     {Switch::NoMonsters, u"-nm ", [](In in) { return !monsters(in); }},
-    {Switch::DetailTextures, u"-dt ", [](In in) { return !on(in).HighResTextures && on(in).DetailTextures && box(in).chkGraphics[2].enabled; }},
+    {Switch::DetailTextures, u"-dt ", [](In in) { return !texturesUsed(in) && on(in).DetailTextures && in.launcher.resources.detailTextures; }},
     {Switch::NoJoystick, u"-nojoy ", [](In in) { return on(in).DisableJoystick; }},
     {Switch::Skyboxes, u"-usb ", [](In in) { return in.scriptedMap || (skyboxes(in) && on(in).SkyMode == 0); }},
     {Switch::ForcedSkyboxes, u"-fsb ", [](In in) { return notScripted(in) && skyboxes(in) && on(in).SkyMode == 1; }},
@@ -236,12 +246,12 @@ constexpr Row rows[] = {
     {Switch::LessSmoke, u"-smn ", [](In in) { return on(in).GunSmoke && on(in).SmokeMode == 1; }},
     {Switch::Fast, u"-fast ", [](In in) { return on(in).FastMonsters && monsters(in); }},
     {Switch::NoCore, u"-nc ", basicDoom},
-    {Switch::BasicEffects, u"-xa -spf ", [](In in) { return basicDoom(in) && on(in).Fx; }},
-    {Switch::BasicNoSplashes, u"-spx ", [](In in) { return basicDoom(in) && on(in).Fx && !on(in).SplashEffects; }},
-    {Switch::NoSprites, u"-nws ", [](In in) { return basicDoom(in) && !on(in).Fx; }},
-    {Switch::BasicConsole, u"-cmd ", [](In in) { return basicDoom(in) && on(in).Fx; }},
-    {Switch::BasicLight, u"\"rend-light 1\" ", [](In in) { return basicDoom(in) && on(in).Fx && on(in).DynamicLighting; }},
-    {Switch::BasicNoLight, u"\"rend-light 0\" ", [](In in) { return basicDoom(in) && on(in).Fx && !on(in).DynamicLighting; }},
+    {Switch::BasicEffects, u"-xa -spf ", [](In in) { return basicDoom(in) && fx(in); }},
+    {Switch::BasicNoSplashes, u"-spx ", [](In in) { return basicDoom(in) && fx(in) && !on(in).SplashEffects; }},
+    {Switch::NoSprites, u"-nws ", [](In in) { return basicDoom(in) && !fx(in); }},
+    {Switch::BasicConsole, u"-cmd ", [](In in) { return basicDoom(in) && fx(in); }},
+    {Switch::BasicLight, u"\"rend-light 1\" ", [](In in) { return basicDoom(in) && fx(in) && on(in).DynamicLighting; }},
+    {Switch::BasicNoLight, u"\"rend-light 0\" ", [](In in) { return basicDoom(in) && fx(in) && !on(in).DynamicLighting; }},
     {Switch::StaticTextures, u"-stx ", [](In in) { return in.wadCheckResult == 5; }},
     {Switch::NextMap, u"-c_nextmap ", [](In in) { return in.wadCheckResult == 6; }},
     {Switch::MapFormat, u"-mfo ", [](In in) { return in.wadCheckResult == 4; }},

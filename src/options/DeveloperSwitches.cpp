@@ -6,10 +6,8 @@ void showDevelopmentMode(Launcher& launcher, bool shown)
 {
     CheckBox& box = launcher.controls.chkTesting;
     box.visible = shown;
-    if (!shown) {
+    if (!shown)
         box.setTicked(false);
-        launcher.settings.DevelopmentMode = false;
-    }
 }
 
 } // namespace
@@ -17,6 +15,9 @@ void showDevelopmentMode(Launcher& launcher, bool shown)
 void ConnectDeveloperSwitches(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
+    controls.chkTesting.clicked = [&launcher, &controls] {
+        launcher.settings.DevelopmentMode = controls.chkTesting.ticked();
+    };
     controls.ImageDG[2].clicked = [&launcher, &controls] {
         controls.ImageDG[5].visible = true;
         controls.ImageDG[2].visible = false;

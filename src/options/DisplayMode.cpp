@@ -1,5 +1,6 @@
 #include "options/DisplayMode.h"
 
+#include "app/ToolTips.h"
 #include "catalogue/ScriptedMapMode.h"
 
 using namespace Qt::StringLiterals;
@@ -33,8 +34,7 @@ void advancedClicked(Launcher& launcher)
 {
     const bool advanced = launcher.controls.chkMain[advancedBox].ticked();
     launcher.settings.AdvancedOptions = advanced;
-    launcher.controls.Auto[0].toolTip =
-        advanced ? u" Toggle Keldrax scripted maps if installed. "_s : QString();
+    ShowScriptedMapsTip(launcher);
     advanced ? AdvancedMode(launcher) : DefaultMode(launcher);
 }
 

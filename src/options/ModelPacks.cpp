@@ -1,5 +1,7 @@
 #include "options/ModelPacks.h"
 
+#include "options/EffectModes.h"
+#include "platform/Paths.h"
 #include "platform/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -19,16 +21,93 @@ bool carriesCurrentHeader(const FileSystem& files, const QString& path)
     }
 }
 
+QString installedPacks(const ModelPacks& packs)
+{
+    if (packs.ModelPacksMissing)
+        return u" Model packs "_s;
+    if (packs.ModelPack2Installed)
+        return packs.KelspackInstalled ? u" All model packs installed "_s
+                                       : u" Model packs 1 and 2 installed "_s;
+    return packs.KelspackInstalled ? u" Model pack 1 and Kelspack installed "_s : u" Model pack 1 installed "_s;
+}
+
+// A box that can be ticked but is not says no.
+void allow(CheckBox& box, bool allowed, bool& setting)
+{
+    box.enabled = allowed;
+    if (allowed && !box.ticked())
+        setting = false;
+}
+
+void allowReplacements(Launcher& launcher)
+{
+    Settings& settings = launcher.settings;
+    const ModelPacks& packs = launcher.modelPacks;
+    auto& alternatives = launcher.controls.chkAltModels;
+    const bool kelspack = packs.KelspackInstalled && !packs.ModelPacksMissing;
+    allow(alternatives[3],
+          packs.ModelPack2Installed && !packs.ModelPacksMissing && !launcher.selection.ScriptedMap,
+          settings.TovrensReplacements);
+    allow(alternatives[1], kelspack, settings.KelspackWeapons);
+    allow(alternatives[2], kelspack, settings.KelspackAlternative);
+}
+
+void allowZombies(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    const ModelPacks& packs = launcher.modelPacks;
+    CheckBox& zombies = controls.chkAltModels[0];
+    if (packs.ModelPacksMissing) {
+        zombies.setTicked(false);
+        zombies.enabled = false;
+        if (!packs.ModelPack2Installed && !packs.KelspackInstalled)
+            controls.FrameModel[0].enabled = false;
+        return;
+    }
+    controls.FrameModel[0].enabled = true;
+    if (!launcher.files.fileExists(launcher.paths.Md2Path + u"Tovrens/Gore/Gore3.dmd"_s))
+        zombies.enabled = false;
+    else if (!launcher.settings.NoMonsters)
+        zombies.enabled = true;
+}
+
 } // namespace
 
-ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& paths)
+void DetectModelPacks(Launcher& launcher)
 {
-    const QString kelspack = paths.Md2Path + u"Kelspack/"_s;
-    return {.ModelPacksMissing =
-                !files.fileExists(paths.Md2Path + u"HudWeapons/SuperShotgun/db-shells.md2"_s),
-            .ModelPack2Installed = files.fileExists(paths.Md2Path + u"Tovrens/Gore/Gore6.dmd"_s),
-            .KelspackInstalled = files.fileExists(kelspack + u"AK47/AK47.md2"_s) &&
-                                 files.fileExists(kelspack + u"kelspack.wad"_s)};
+    Controls& controls = launcher.controls;
+    Settings& settings = launcher.settings;
+    const bool baseMissing = launcher.modelPacks.ModelPacksMissing;
+    launcher.modelPacks = FindModelPacks(launcher.files, launcher.paths);
+    launcher.modelPacks.ModelPacksMissing = baseMissing;
+
+    CheckBox& fx = controls.ChkModelOpts[2];
+    if (!launcher.modelPacks.CoreEffectsInstalled)
+        fx.enabled = false;
+    else if (!launcher.selection.ScriptedMap && !settings.BasicDoom && controls.ChkModelOpts[3].enabled)
+        fx.enabled = true;
+    controls.FrameModel[0].caption = installedPacks(launcher.modelPacks);
+    controls.ModFrame.visible = false;
+    if (SameName(BaseNameOf(launcher.selection.SelectedGameFile), u"vexlev"_s))
+        launcher.selection.ScriptedMap = true;
+    if (!settings.BasicDoom && !FxInForce(launcher) && !settings.CoreEffects)
+        allowReplacements(launcher);
+    allowZombies(launcher);
+    if (launcher.selection.ScriptedMap) {
+        controls.FrameModel[0].enabled = false;
+        controls.chkAltModels[2].enabled = false;
+    }
+}
+
+void DetectKelspack(Launcher& launcher)
+{
+    launcher.modelPacks.KelspackInstalled =
+        FindModelPacks(launcher.files, launcher.paths).KelspackInstalled;
+}
+
+void ShowModelAdvice(Launcher& launcher)
+{
+    launcher.controls.ModFrame.visible = true;
 }
 
 bool CheckHudWeaponsDefs(Settings& settings, const FileSystem& files, const InstallationPaths& paths)

@@ -1,19 +1,18 @@
 #pragma once
 
-#include "app/InstallationPaths.h"
-#include "app/Settings.h"
-#include "platform/FileSystem.h"
+#include "app/Launcher.h"
 
-// Which of the optional model packs are installed.
-struct ModelPacks
-{
-    bool ModelPacksMissing = true;    // the base pack is not there
-    bool ModelPack2Installed = false; // the Tovrens pack
-    bool KelspackInstalled = false;   // the optional weapons
-};
+// The optional model packs: which of them are there, and what that allows.
 
-// Looks for the packs' marker files.
-ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& paths);
+// Looks for the packs anew; captions and enables the model options. That the base pack is missing is known
+// from the start of the launcher and from a cleanup, and not looked for here.
+void DetectModelPacks(Launcher& launcher);
+
+// Whether the optional weapons are installed.
+void DetectKelspack(Launcher& launcher);
+
+// Shows where the model packs come from, on the models page.
+void ShowModelAdvice(Launcher& launcher);
 
 // False when exactly one of the two HUD-weapons definition files carries the current header; then the
 // Tovrens replacements are switched off in `settings`.

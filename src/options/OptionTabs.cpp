@@ -1,6 +1,7 @@
 #include "options/OptionTabs.h"
 
 #include "catalogue/GameSelection.h"
+#include "options/ModelPacks.h"
 #include "options/PresenceChecks.h"
 
 namespace {
@@ -9,6 +10,13 @@ enum Tab { Games, Options, Graphics, Sound, Models };
 constexpr size_t cleanupButton = 8; // AuxButton
 constexpr size_t shortcutButton = 2;
 
+void showModels(Launcher& launcher)
+{
+    DetectModelPacks(launcher);
+    if (launcher.modelPacks.ModelPacksMissing)
+        ShowModelAdvice(launcher);
+}
+
 void tabClicked(Launcher& launcher, int tab)
 {
     Controls& controls = launcher.controls;
@@ -16,10 +24,14 @@ void tabClicked(Launcher& launcher, int tab)
         controls.OptionTabs[i].colour = i == tab ? Colour::Accent : Colour::Normal;
         controls.TabFrame[static_cast<size_t>(i)].visible = i == tab;
     }
-    if (tab == Graphics)
+    if (tab == Games && std::exchange(launcher.selection.gamesChanged, false))
+        ShowSelectedGameAnew(launcher);
+    else if (tab == Graphics)
         CheckGraphicsPacks(launcher);
     else if (tab == Sound)
         CheckSoundPack(launcher);
+    else if (tab == Models)
+        showModels(launcher);
 
     const bool canLaunch = CanLaunchSelection(launcher);
     controls.LaunchButton.enabled = canLaunch;

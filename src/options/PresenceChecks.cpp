@@ -41,28 +41,49 @@ bool TexturePathValid(Launcher& launcher)
     return true;
 }
 
+bool HighResTexturesUsed(const Launcher& launcher)
+{
+    return launcher.settings.HighResTextures && launcher.resources.textures;
+}
+
+bool SoundPackInstalled(const Launcher& launcher)
+{
+    return launcher.files.fileExists(launcher.paths.RootPath + u"/Data/hv_doom_sfx.wad"_s);
+}
+
+void FindResourcePacks(Launcher& launcher)
+{
+    const QString data = launcher.paths.RootPath + u"/Data/"_s;
+    const FileSystem& files = launcher.files;
+    launcher.resources.textures = TexturePathValid(launcher);
+    launcher.resources.patches =
+        files.fileExists(data + u"patches/stbar.png"_s) || patchesBesideTextures(launcher);
+    launcher.resources.detailTextures = files.fileExists(data + u"dtex/detail.wad"_s);
+    launcher.resources.skyboxes = files.folderExists(data + u"Skyboxes"_s);
+}
+
 void CheckGraphicsPacks(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    const QString data = launcher.paths.RootPath + u"/Data/"_s;
-    if (controls.chkMain[0].ticked())
+    FindResourcePacks(launcher);
+    const ResourcePacks& packs = launcher.resources;
+    if (controls.chkMain[0].ticked() || launcher.selection.ScriptedMap)
         return;
-    if (launcher.files.fileExists(data + u"patches/stbar.png"_s) || patchesBesideTextures(launcher)) {
+    if (packs.patches) {
         controls.chkGraphics[highResPatches].enabled = true;
         launcher.settings.HighResPatches = controls.chkGraphics[highResPatches].ticked();
     }
     CheckBox& textures = controls.chkMain[highResTextures];
-    if (!TexturePathValid(launcher)) {
-        textures.enabled = false;
+    textures.enabled = packs.textures;
+    if (!packs.textures) {
         controls.HiResText.text = notInstalled;
-    } else if (textures.enabled && textures.ticked()) {
+    } else if (textures.ticked()) {
         controls.HiResText.text = NativePath(launcher.settings.TexturePath);
         launcher.settings.HighResTextures = true;
     }
-    const bool texturesUsed = launcher.settings.HighResTextures && textures.enabled;
-    if (launcher.files.fileExists(data + u"dtex/detail.wad"_s) && !texturesUsed)
+    if (packs.detailTextures && !HighResTexturesUsed(launcher))
         controls.chkGraphics[detailTextures].enabled = true;
-    if (launcher.files.folderExists(data + u"Skyboxes"_s)) {
+    if (packs.skyboxes) {
         CheckBox& box = controls.chkGraphics[skyboxes];
         box.enabled = true;
         if (box.ticked())
@@ -73,18 +94,13 @@ void CheckGraphicsPacks(Launcher& launcher)
 void CheckSoundPack(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked() &&
-        launcher.files.fileExists(launcher.paths.RootPath + u"/Data/hv_doom_sfx.wad"_s))
+    if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked() && SoundPackInstalled(launcher))
         controls.chkSound[soundPack].enabled = true;
 }
 
 void CheckPacksAtLoad(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
-    if (controls.chkMain[0].ticked())
-        return;
-    const bool valid = TexturePathValid(launcher);
-    controls.chkMain[highResTextures].enabled = valid;
-    controls.HiResText.text = valid ? NativePath(launcher.settings.TexturePath) : notInstalled;
+    if (!launcher.controls.chkMain[0].ticked() && TexturePathValid(launcher))
+        launcher.controls.HiResText.text = NativePath(launcher.settings.TexturePath);
     CheckGraphicsPacks(launcher);
 }

@@ -11,6 +11,14 @@ bool TexturePathValid(Launcher& launcher);
 // Enables the boxes of patches, textures, detail textures and skyboxes that are installed.
 void CheckGraphicsPacks(Launcher& launcher);
 
+// Whether the high-resolution textures are ticked and there.
+bool HighResTexturesUsed(const Launcher& launcher);
+
+bool SoundPackInstalled(const Launcher& launcher);
+
+// Looks which packs of graphics are there.
+void FindResourcePacks(Launcher& launcher);
+
 // Enables the box of the sound pack when it is installed.
 void CheckSoundPack(Launcher& launcher);
 

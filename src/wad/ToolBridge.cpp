@@ -69,17 +69,27 @@ QString wadReport(Launcher& launcher, const QString& path, EmptyReport empty)
     return known.text;
 }
 
-} // namespace
-
-int CountWadMaps(Launcher& launcher, const QString& path)
+// The number that orders WADs, read from a report's fixed place.
+int mapKey(const QString& report)
 {
-    const QString report = wadReport(launcher, path, EmptyReport::Kept);
     const QString count = report.mid(countPosition, 2);
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     const bool twoDigits = count.size() == 2 && isDigit(count.at(1));
     QString key = twoDigits ? u"1"_s + count : u"10"_s + count.left(1);
     key.remove(u' '); // the number ends at what is neither digit nor blank
     return key.first(std::ranges::find_if_not(key, isDigit) - key.cbegin()).toInt();
+}
+
+} // namespace
+
+int CountWadMaps(Launcher& launcher, const QString& path)
+{
+    return mapKey(wadReport(launcher, path, EmptyReport::Kept));
+}
+
+int KnownWadMaps(const Launcher& launcher, const QString& path)
+{
+    return mapKey(launcher.wadReports.value(path).text);
 }
 
 void ListWadMaps(Launcher& launcher, const QString& path)

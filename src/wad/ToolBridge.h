@@ -9,6 +9,9 @@
 // Orders WADs by their number of maps: 100 plus that number; 10 without a report.
 int CountWadMaps(Launcher& launcher, const QString& path);
 
+// The same from what is known of the WAD; asks no tool.
+int KnownWadMaps(const Launcher& launcher, const QString& path);
+
 // Fills MapList with the map names of a WAD, in the order of its directory. An empty report leaves the
 // list as it is.
 void ListWadMaps(Launcher& launcher, const QString& path);

@@ -1,5 +1,6 @@
 // The skills, the display mode, the tabs, and the packs that enable options.
 #include "options/DisplayMode.h"
+#include "options/LoadOptions.h"
 #include "options/ModelPacks.h"
 #include "options/PresenceChecks.h"
 #include "platform/Paths.h"
@@ -154,7 +155,7 @@ private Q_SLOTS:
         game.installation.addFolder(u"Data/textures"_s);
         QVERIFY(TexturePathValid(launcher));
         QVERIFY(SameName(launcher.settings.TexturePath, game.path(u"Data/Textures"_s)));
-        CheckPacksAtLoad(launcher);
+        CheckOptions(launcher);
         QVERIFY(controls.chkMain[1].enabled);
         controls.chkGraphics[2].enabled = false;
         controls.chkMain[1].startAs(1);

@@ -2,6 +2,7 @@
 
 #include "app/SettingsControls.h"
 #include "catalogue/GameLists.h"
+#include "options/LoadOptions.h"
 #include "options/Skills.h"
 #include "platform/SystemProcesses.h"
 #include "tests/support/LauncherFixture.h"
@@ -22,8 +23,12 @@ public:
         addWad(QStringLiteral("Iwads/Doom.wad"), {QStringLiteral("E1M1"), QStringLiteral("E3M2")});
         addWad(QStringLiteral("Iwads/Doom2.wad"),
                {QStringLiteral("MAP01"), QStringLiteral("MAP07"), QStringLiteral("MAP31")});
+        installation.addFolder(QStringLiteral("Md2/CoreEffects")); // without them FX is in force
+        installation.add(QStringLiteral("Defs/Base/CoreEffects.ded"));
         launcher.settings = settings;
+        PrepareOptions(launcher);
         ApplySettingsToControls(launcher.settings, launcher.controls);
+        CheckOptions(launcher);
         SetMapFocus(launcher);
         BuildIwadList(launcher.iwads, files, launcher.paths, launcher.environment);
         OptionUdirClick(launcher, 1);

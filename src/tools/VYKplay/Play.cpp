@@ -6,7 +6,7 @@
 #include "catalogue/GameLists.h"
 #include "catalogue/InstallGame.h"
 #include "launch/LaunchButton.h"
-#include "options/PresenceChecks.h"
+#include "options/LoadOptions.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
 #include "platform/ReadOnlyFileSystem.h"
@@ -36,12 +36,12 @@ void load(Launcher& launcher, QTextStream& err)
         UseDefaultSettings(launcher);
     }
     CorrectSettings(launcher);
-    launcher.modelPacks = FindModelPacks(launcher.files, launcher.paths);
+    PrepareOptions(launcher);
     BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
     ApplySettingsToControls(launcher.settings, launcher.controls);
     if (launcher.settings.Skill == 0)
         launcher.launch.StartChoice = StartChoice::NewGame;
-    CheckPacksAtLoad(launcher);
+    CheckOptions(launcher);
 }
 
 QList<int> viewsOf(const Arguments& arguments)

@@ -1,0 +1,57 @@
+#include "options/SpriteOptions.h"
+
+#include "options/EffectModes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void allowEffects(Controls& controls, bool on)
+{
+    controls.GraphicFrames[4].enabled = on;
+    controls.chkEffects[0].enabled = controls.chkEffects[2].enabled = on;
+}
+
+} // namespace
+
+void KillSpriteOptions(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    CheckBox& basicDoom = controls.chkMain[0];
+    CheckBox& fx = controls.ChkModelOpts[2];
+    const bool basicDoomTicked = basicDoom.ticked();
+    const bool fxTicked = fx.ticked();
+    basicDoom.setTicked(false);
+    fx.setTicked(false);
+    basicDoom.enabled = false;
+    for (CheckBox& box : controls.ChkModelOpts)
+        box.enabled = false;
+    allowEffects(controls, false);
+    basicDoom.setTicked(basicDoomTicked);
+    fx.setTicked(fxTicked);
+}
+
+void RestoreSpriteOptions(Launcher& launcher)
+{
+    Controls& controls = launcher.controls;
+    auto& modes = controls.ChkModelOpts;
+    CheckBox& basicDoom = controls.chkMain[0];
+    if (!launcher.files.fileExists(launcher.paths.ModelDefsPath + u"FlameModels.ded"_s)) {
+        basicDoom.enabled = true;
+        return;
+    }
+    if (!modes[3].ticked() && !modes[2].ticked())
+        basicDoom.enabled = true;
+    modes[3].enabled = true;
+    if (launcher.settings.BasicDoom) {
+        BasicDoom(launcher);
+        return;
+    }
+    if (!modes[3].ticked()) {
+        modes[1].enabled = true;
+        modes[2].enabled = launcher.modelPacks.CoreEffectsInstalled;
+    }
+    if (modes[2].ticked())
+        CoreEffects(launcher);
+    allowEffects(controls, true);
+}
