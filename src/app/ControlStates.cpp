@@ -14,8 +14,15 @@ bool isGamesList(QStringView name)
     return name == u"PwadList" || name == u"PwadShowlist" || name == u"MapList" || name == u"SaveGameList";
 }
 
-// Calls each(name, control, value) for every single control; `value` is the check box, list or array of
-// option buttons that the control's value is in, else the control itself.
+// One of an array of option buttons.
+template <class Buttons>
+struct ButtonOf
+{
+    Buttons& buttons;
+    int index;
+};
+
+// Calls each(name, control, value) for every single control; `value` is what the control's value is in.
 template <class ControlsType, class Each>
 void eachControl(ControlsType& controls, Each each)
 {
@@ -25,31 +32,44 @@ void eachControl(ControlsType& controls, Each each)
         const QString name = index < 0 ? array.toString() : array.toString() + u'_' + QString::number(index);
         if constexpr (std::is_same_v<std::remove_cvref_t<decltype(control)>, OptionButtons>) {
             for (int i = 0; i < control.count(); ++i)
-                each(name + u'_' + QString::number(i), control[i], control);
+                each(name + u'_' + QString::number(i), control[i], ButtonOf{control, i});
         } else {
             each(name, control, control);
         }
     });
 }
 
-template <class Type>
-int valueOf(const Type& control)
+int valueOf(const CheckBox& box)
 {
-    if constexpr (std::is_base_of_v<CheckBox, Type>)
-        return control.value();
-    else if constexpr (std::is_base_of_v<ListBox, Type> || std::is_same_v<Type, OptionButtons>)
-        return control.selected();
-    else
-        return 0;
+    return box.value();
+}
+int valueOf(const ListBox& list)
+{
+    return list.selected();
+}
+int valueOf(const ButtonOf<const OptionButtons>& button)
+{
+    return button.buttons.selected() == button.index ? 1 : 0;
+}
+int valueOf(const Control&)
+{
+    return 0;
 }
 
-template <class Type>
-void setValue(Type& control, int value)
+void setValue(CheckBox& box, int value)
 {
-    if constexpr (std::is_base_of_v<CheckBox, Type> || std::is_base_of_v<ListBox, Type> ||
-                  std::is_same_v<Type, OptionButtons>)
-        control.startAs(value);
+    box.startAs(value);
 }
+void setValue(ListBox& list, int value)
+{
+    list.startAs(value);
+}
+void setValue(const ButtonOf<OptionButtons>& button, int value)
+{
+    if (value == 1)
+        button.buttons.startAs(button.index);
+}
+void setValue(Control&, int) {}
 
 } // namespace
 
@@ -64,7 +84,7 @@ ControlStates::ControlStates(const Controls& controls)
 void ControlStates::restore(Controls& controls) const
 {
     auto state = m_states.begin();
-    eachControl(controls, [&state](const QString&, Control& control, auto& holder) {
+    eachControl(controls, [&state](const QString&, Control& control, auto&& holder) {
         control.caption = state->caption;
         control.text = state->text;
         control.toolTip = state->toolTip;
@@ -80,7 +100,7 @@ QStringList ControlStates::differences(const ControlStates& later) const
 {
     QStringList different;
     for (size_t i = 0; i < m_states.size(); ++i)
-        if (m_states[i] != later.m_states[i])
+        if (m_states[i] != later.m_states[i] && (m_states[i].visible || later.m_states[i].visible))
             different << m_states[i].name + u": "_s + m_states[i].description() + u" -> "_s +
                              later.m_states[i].description();
     return different;

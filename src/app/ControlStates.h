@@ -12,7 +12,8 @@ public:
     // Everything as it was; runs no handler.
     void restore(Controls& controls) const;
 
-    // The names of the controls that show something else now, with both states: "chkMain_0: ... -> ...".
+    // The controls that show something else there, with both states: "chkMain_0: ... -> ...". One that is
+    // hidden in both shows nothing.
     QStringList differences(const ControlStates& later) const;
 
 private:
@@ -25,7 +26,7 @@ private:
         bool enabled;
         bool visible;
         Colour colour;
-        int value; // a check box's, the selected button or entry; 0 for the others
+        int value; // a check box's, 1 for the selected button, a list's entry; 0 for the others
 
         bool operator==(const State&) const = default;
         QString description() const;

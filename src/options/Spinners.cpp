@@ -64,6 +64,8 @@ void press(Launcher& launcher, const Spinner& spinner, int step)
     TextBox& box = spinner.box(launcher.controls);
     const int from = std::max(box.number(), spinner.lowest);
     const int value = std::clamp(from + step, spinner.lowest, spinner.highest);
+    if (value == box.number())
+        return;
     box.text = QString::number(value);
     launcher.settings.*spinner.setting = value;
     if (step < 0 && value == 0 && spinner.reachedZero)

@@ -125,8 +125,8 @@ void ListBox::click(int index)
 
 void ListBox::setCurrentText(const QString& value)
 {
-    text = value;
     const int index = find(value);
+    text = index >= 0 ? QString() : value;
     if (index >= 0)
         select(index);
     else

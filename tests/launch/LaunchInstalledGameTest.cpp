@@ -236,7 +236,9 @@ private Q_SLOTS:
         game.selectGame(u"VEX"_s);
         game.verifyRefused(u" VEX Addon required"_s, u"latest version of the Keldrax VEX"_s);
         game.installation.add(u"Data/VYK_addon/Vexlev/vexlev_addon.wad"_s, "new");
-        QVERIFY(!game.launchedLine().isEmpty());
+        game.verifyRefused(u" Model packs required"_s, u"require the model packs"_s);
+        game.launcher.modelPacks.ModelPacksMissing = false;
+        QVERIFY(game.launchedLine().contains(u" -usb "_s)); // as a scripted map does
     }
 
     void aNameWithAQuoteIsRefused()

@@ -57,6 +57,8 @@ void quiet(Case& c)
     b.chkAltModels[0].startAs(1);
     b.chkAltModels[3].startAs(1);
     c.launcher.launch = {};
+    c.launcher.modelPacks.CoreEffectsInstalled = true;
+    c.launcher.resources = {true, true, true, true};
 }
 
 // As much as can be on at the same time.
@@ -192,7 +194,7 @@ private Q_SLOTS:
         both(
             "nothing", [](Case&) {}, none);
         row(
-            "greyed boxes count as off",
+            "greyed boxes and missing packs count as off",
             [](Case& c) {
                 Settings& s = c.set;
                 s.DetailTextures = s.HiResSoundPack = s.IgnorePlaylistIfCustomMusic = s.ForceFmodMidi = true;
@@ -203,6 +205,7 @@ private Q_SLOTS:
                 for (CheckBox* box : boxesOfPacks(c.box))
                     box->enabled = false;
                 c.box.cbScaler.enabled = false;
+                c.launcher.resources = {};
             },
             u"-np -nht -ch 128 -xa -spf -gnd 3 "_s + cmd, u"-np -nht "_s + none);
         both(
