@@ -1,5 +1,6 @@
 #include "options/ModelPacks.h"
 
+#include "app/Launcher.h"
 #include "platform/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -29,6 +30,11 @@ ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& path
             .ModelPack2Installed = files.fileExists(paths.Md2Path + u"Tovrens/Gore/Gore6.dmd"_s),
             .KelspackInstalled = files.fileExists(kelspack + u"AK47/AK47.md2"_s) &&
                                  files.fileExists(kelspack + u"kelspack.wad"_s)};
+}
+
+void DetectModelPacks(Launcher& launcher)
+{
+    launcher.modelPacks = FindModelPacks(launcher.files, launcher.paths);
 }
 
 bool CheckHudWeaponsDefs(Settings& settings, const FileSystem& files, const InstallationPaths& paths)

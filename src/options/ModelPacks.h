@@ -4,6 +4,8 @@
 #include "app/Settings.h"
 #include "platform/FileSystem.h"
 
+struct Launcher;
+
 // Which of the optional model packs are installed.
 struct ModelPacks
 {
@@ -14,6 +16,9 @@ struct ModelPacks
 
 // Looks for the packs' marker files.
 ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& paths);
+
+// Looks for them again.
+void DetectModelPacks(Launcher& launcher);
 
 // False when exactly one of the two HUD-weapons definition files carries the current header; then the
 // Tovrens replacements are switched off in `settings`.
