@@ -14,6 +14,7 @@
 #include "catalogue/ScriptedMapMode.h"
 #include "catalogue/TaskMenus.h"
 #include "launch/LaunchButton.h"
+#include "options/CleanUpModels.h"
 #include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
 #include "options/LaunchPreferences.h"
@@ -54,5 +55,6 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectOptionTabs(*this);
     ConnectDisplayMode(*this);
     ConnectDeveloperSwitches(*this);
+    ConnectModelCleanup(*this);
     ConnectLaunchButton(*this);
 }
