@@ -19,6 +19,7 @@
 #include "options/DisplayMode.h"
 #include "options/LaunchPreferences.h"
 #include "options/OptionTabs.h"
+#include "options/PurgeNodes.h"
 #include "options/Skills.h"
 #include "savegames/DeleteSaveGames.h"
 #include "savegames/SaveGames.h"
@@ -56,5 +57,6 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectDisplayMode(*this);
     ConnectDeveloperSwitches(*this);
     ConnectModelCleanup(*this);
+    ConnectNodePurge(*this);
     ConnectLaunchButton(*this);
 }
