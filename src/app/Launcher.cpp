@@ -15,6 +15,7 @@
 #include "catalogue/TaskMenus.h"
 #include "launch/CommandPreview.h"
 #include "launch/LaunchButton.h"
+#include "options/CleanUpModels.h"
 #include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
 #include "options/EditMode.h"
@@ -24,6 +25,7 @@
 #include "options/ModelOptions.h"
 #include "options/NoMonsters.h"
 #include "options/OptionTabs.h"
+#include "options/PurgeNodes.h"
 #include "options/Skills.h"
 #include "options/SoundOptions.h"
 #include "options/Spinners.h"
@@ -69,6 +71,8 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectSpinners(*this);
     ConnectNoMonsters(*this);
     ConnectEditMode(*this);
+    ConnectModelCleanup(*this);
+    ConnectNodePurge(*this);
     ConnectLaunchButton(*this);
     ConnectCommandPreview(*this);
 }

@@ -1,6 +1,7 @@
 #include "platform/DiskFileSystem.h"
 
 #include "platform/FolderScan.h"
+#include "platform/FolderTree.h"
 #include "platform/Paths.h"
 
 #include <QDir>
@@ -60,6 +61,12 @@ Kind KindOf(int error)
 std::filesystem::path NativeOf(const QString& path)
 {
     return QFileInfo(path).filesystemFilePath();
+}
+
+FolderEntry::Kind KindOf(const QFileInfo& entry)
+{
+    using enum FolderEntry::Kind;
+    return entry.isSymLink() ? Link : entry.isDir() ? Folder : entry.isFile() ? File : Other;
 }
 
 // Ascending without regard to case; the exact spelling decides between names that differ in nothing else.
@@ -268,6 +275,21 @@ QStringList DiskFileSystem::foldersHolding(const QString& folder, const QStringL
     return Sorted(FoldersHolding(actualPath(folder), names));
 }
 
+QList<FolderEntry> DiskFileSystem::entries(const QString& folder) const
+{
+    const QString parent = actualPath(folder);
+    QList<FolderEntry> found;
+    for (const QString& name : Sorted(EntriesOf(parent, EntryKind::Any)))
+        found.append({name, KindOf(QFileInfo(Joined(parent, name)))});
+    return found;
+}
+
+TreeContents DiskFileSystem::contents(const QString& path) const
+{
+    const Found found = Find(path);
+    return found.whole ? ContentsOf(NativeOf(found.path)) : TreeContents();
+}
+
 QDateTime DiskFileSystem::modified(const QString& path) const
 {
     const Found found = Find(path);
@@ -408,7 +430,12 @@ void DiskFileSystem::removeTree(const QString& path)
     if (const QFileInfo entry(found.path); !entry.isDir() && !entry.isSymLink())
         throw FileError(Kind::Other, found.path, u"not a folder"_s);
     std::error_code error;
-    std::filesystem::remove_all(NativeOf(found.path), error);
+    const std::filesystem::path top = NativeOf(found.path);
+    std::filesystem::remove_all(top, error);
+    if (error && KindOf(error.value()) == Kind::PermissionDenied && !QFileInfo(found.path).isSymLink()) {
+        MakeFoldersWritable(top);
+        std::filesystem::remove_all(top, error);
+    }
     if (error)
         Fail(found.path, error);
 }

@@ -12,6 +12,8 @@ public:
     QStringList files(const QString& folder) const override;
     QStringList folders(const QString& folder) const override;
     QStringList foldersHolding(const QString& folder, const QStringList& names) const override;
+    QList<FolderEntry> entries(const QString& folder) const override;
+    TreeContents contents(const QString& path) const override;
     QDateTime modified(const QString& path) const override;
     FileStamp stamp(const QString& path) const override;
     bool isReadOnly(const QString& path) const override;

@@ -21,6 +21,22 @@ struct FileStamp
     bool operator==(const FileStamp&) const = default;
 };
 
+// An entry of a folder as it stands there: a link is a link, whatever it leads to.
+struct FolderEntry
+{
+    enum class Kind { File, Folder, Link, Other };
+    QString name;
+    Kind kind;
+};
+
+// How much there is at a path, in files (links among them), folders and the bytes of the files.
+struct TreeContents
+{
+    qint64 folders = 0;
+    qint64 files = 0;
+    qint64 bytes = 0;
+};
+
 // The disk. Every path is absolute and written with '/'; a '\' is accepted and means the same. Names
 // compare without regard to case: a path that does not exist as it is spelled is looked for folder by
 // folder (the exact spelling is tried first, so the common case costs one call). Where two names of a
@@ -44,6 +60,13 @@ public:
 
     // Of the folders directly in `folder`, in the same order, those that hold a folder with one of the names.
     virtual QStringList foldersHolding(const QString& folder, const QStringList& names) const = 0;
+
+    // All that is directly in `folder`, in the same order; none when it does not exist or cannot be read.
+    virtual QList<FolderEntry> entries(const QString& folder) const = 0;
+
+    // What is at `path` and below it, a folder itself included. A link counts as one file without bytes,
+    // not as what it leads to; a folder that cannot be read counts as one folder.
+    virtual TreeContents contents(const QString& path) const = 0;
 
     // The time of the last change; invalid when the file does not exist.
     virtual QDateTime modified(const QString& path) const = 0;
@@ -89,7 +112,8 @@ public:
     virtual void createFolder(const QString& path) = 0;
 
     // Deletes a folder with all that is in it, also what is read-only; a link is deleted, not what it leads
-    // to. One that does not exist is no failure. Throws FileError; then some of it may be gone.
+    // to. One that does not exist is no failure. Throws FileError; then some of it may be gone, and its
+    // read-only folders may have become writable.
     virtual void removeTree(const QString& path) = 0;
 
     // Deletes an empty folder; throws FileError, also when the folder holds something.

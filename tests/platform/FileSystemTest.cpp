@@ -183,6 +183,32 @@ private Q_SLOTS:
         QVERIFY(disk.exists(u"Games/file"_s) && disk.exists(u"DANGLING"_s));
     }
 
+    // What would go with a folder: links are counted, not followed.
+    void entriesAndContents()
+    {
+        TemporaryInstallation disk;
+        disk.add(u"Elsewhere/big"_s, QByteArray(1000, 'x'));
+        disk.add(u"Pack/a"_s, "12345");
+        disk.add(u"Pack/Sub/.hidden"_s, "123");
+        QVERIFY(QFile::link(disk.path(u"Elsewhere"_s), disk.path(u"Pack/folder"_s)));
+        QVERIFY(QFile::link(disk.path(u"Elsewhere/big"_s), disk.path(u"Pack/Sub/file"_s)));
+        QVERIFY(QFile::link(disk.path(u"nowhere"_s), disk.path(u"Pack/nothing"_s)));
+        const DiskFileSystem files;
+        const auto counted = [&](const QString& path) {
+            const TreeContents found = files.contents(disk.path(path));
+            return QList<qint64>{found.folders, found.files, found.bytes};
+        };
+        QCOMPARE(counted(u"pack/"_s), (QList<qint64>{2, 5, 8}));
+        QCOMPARE(counted(u"Pack/a"_s), (QList<qint64>{0, 1, 5}));
+        QCOMPARE(counted(u"Pack/folder"_s), (QList<qint64>{0, 1, 0}));
+        QCOMPARE(counted(u"none"_s), (QList<qint64>{0, 0, 0}));
+        QString entries;
+        for (const FolderEntry& entry : files.entries(disk.path(u"PACK"_s)))
+            entries += entry.name + u"=%1 "_s.arg(static_cast<int>(entry.kind));
+        QCOMPARE(entries, u"a=0 folder=2 nothing=2 Sub=1 "_s);
+        QVERIFY(files.entries(disk.path(u"Pack/a"_s)).isEmpty());
+    }
+
     void lockedFiles()
     {
         TemporaryInstallation disk;

@@ -38,6 +38,8 @@ public:
     {
         return m_disk.foldersHolding(folder, names);
     }
+    QList<FolderEntry> entries(const QString& folder) const override { return m_disk.entries(folder); }
+    TreeContents contents(const QString& path) const override { return m_disk.contents(path); }
     QDateTime modified(const QString& path) const override { return m_disk.modified(path); }
     FileStamp stamp(const QString& path) const override { return m_disk.stamp(path); }
     bool isReadOnly(const QString& path) const override { return m_disk.isReadOnly(path); }
