@@ -167,6 +167,10 @@ private Q_SLOTS:
         };
         for (const auto& row : rows) {
             Packs packs;
+            for (const ModelPackItem& item :
+                 FindModelPackItems(packs.files, packs.launcher.paths, row.cleanup))
+                QVERIFY(!row.stuck.isEmpty() ||
+                        !row.kept.contains(item.path.mid(packs.installation.root().size() + 1)));
             packs.files.failOn(row.stuck, FileError::Kind::InUse);
             const QStringList left = DeleteModelPacks(packs.launcher, row.cleanup);
             QCOMPARE(left.isEmpty(), row.stuck.isEmpty());
@@ -263,6 +267,7 @@ private Q_SLOTS:
         f.prompts.expectMessage();
         button.clicked();
         QVERIFY(f.prompts.texts.last().endsWith(u"\r\n"_s + NativePath(u"gwa/a.gwa"_s)));
+        QVERIFY(!f.installation.exists(u"gwa/b.gwa"_s) && !f.installation.exists(u"VykanFiles/d"_s));
         f.files.failOn({}, FileError::Kind::Other);
         f.prompts.expectMessage(Msg::ResultYes);
         button.clicked();

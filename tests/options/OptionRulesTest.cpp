@@ -6,6 +6,8 @@
 #include "options/PresenceChecks.h"
 #include "options/SoundOptions.h"
 #include "options/SpriteOptions.h"
+#include "launch/CommandPreview.h"
+#include "tests/support/CommercialGame.h"
 #include "tests/support/OptionLauncher.h"
 
 #include <QTest>
@@ -627,6 +629,187 @@ private Q_SLOTS:
              tab(0),
              u"AuxButton_8(hidden) OptionTabs_0=1(red) OptionTabs_4=0(black) TabFrame_0(shown) TabFrame_4(hidden)"_s},
         });
+    }
+
+    // The resolution that the engine wrote down; what is no such line shows the default.
+    void resolution()
+    {
+        const QString none = u"Default Resolution||"_s;
+        const struct
+        {
+            QByteArray file;
+            QString shown;
+        } rows[] = {
+            {"F 1024 x 768 x 32*0 Hz\r\n", u"1024 x 768 x 32|--- Fullscreen Mode ---|"_s},
+            {"w 640 x 480 x 16* 100 Hz \nmore", u"640 x 480 x 16|--- Windowed Mode ---|100 Hz"_s},
+            {"W   800 * 600*60 Hz", u"800 * 600|--- Windowed Mode ---|60 Hz"_s},
+            {"X 800 x 600", u"800 x 600||"_s},
+            {"F 0 x 0 x 0*75 Hz", none},
+            {"", none},
+            {"F", none},
+            {"*", none},
+            {"F*9 Hz", none},
+            {QByteArray("F \0\x01\x02 800*9", 11), none},
+            {QByteArray(100000, '*'), none},
+        };
+        OptionLauncher options(Packs::None);
+        const auto launcher = options.load(advanced());
+        const auto& labels = launcher->controls.ResLabel;
+        for (const auto& row : rows) {
+            options.installation.add(u"Bin/VYKres.out"_s, row.file);
+            GetCurrentRes(*launcher);
+            QCOMPARE(labels[1].caption + u'|' + labels[2].caption + u'|' + labels[3].caption, row.shown);
+        }
+    }
+
+    void resolutionAfterAGame()
+    {
+        LauncherFixture f;
+        Controls& controls = f.launcher.controls;
+        GetCurrentRes(f.launcher);
+        QCOMPARE(controls.ResLabel[1].caption, u"Default Resolution"_s);
+        const auto engineWrites = [&f](const QByteArray& line, const QDateTime& when) {
+            f.installation.add(u"Bin/VYKres.out"_s, line);
+            QFile file(f.path(u"Bin/VYKres.out"_s));
+            QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(when, QFileDevice::FileModificationTime));
+        };
+        const QDateTime start(QDate(2026, 5, 1), QTime(12, 0));
+        engineWrites("W 640 x 480*60 Hz", start);
+        Reset(f.launcher);
+        QCOMPARE(controls.ResLabel[1].caption, u"640 x 480"_s);
+        engineWrites("W 800 x 600*60 Hz", start);
+        Reset(f.launcher); // no newer than what is shown
+        QCOMPARE(controls.ResLabel[1].caption, u"640 x 480"_s);
+        engineWrites("W 800 x 600*60 Hz", start.addSecs(1));
+        Reset(f.launcher);
+        QCOMPARE(controls.ResLabel[1].caption, u"800 x 600"_s);
+    }
+
+    void largeFonts()
+    {
+        for (const int dpi : {96, 119, 120, 144}) {
+            LauncherFixture f;
+            f.window.dpi = dpi;
+            CheckDPISettings(f.launcher);
+            QCOMPARE(f.launcher.controls.MainForm.topOfVYKFrame, dpi == 120 ? 3575 : 0);
+            QCOMPARE(f.launcher.controls.MainForm.leftOfImageCM, dpi == 120 ? 60 : 0);
+        }
+    }
+
+    void detectedPacks()
+    {
+        const int base = Packs::CoreEffects + Packs::Models;
+        const struct
+        {
+            int packs;
+            QString caption;
+            bool zombies, first, second, replacements, frame;
+        } rows[] = {
+            {Packs::CoreEffects, u" Model packs "_s, false, false, false, false, false},
+            {Packs::CoreEffects + Packs::Tovrens, u" Model packs "_s, false, false, false, false, true},
+            {base, u" Model pack 1 installed "_s, false, false, false, false, true},
+            {base + Packs::Tovrens, u" Model packs 1 and 2 installed "_s, true, false, false, true, true},
+            {base + Packs::Kelspack, u" Model pack 1 and Kelspack installed "_s, false, true, true, false, true},
+            {Packs::All, u" All model packs installed "_s, true, true, true, true, true},
+        };
+        for (const auto& row : rows) {
+            OptionLauncher options(row.packs);
+            const auto launcher = options.load(advanced());
+            const Controls& controls = launcher->controls;
+            QCOMPARE(controls.FrameModel[0].caption, row.caption);
+            QCOMPARE(controls.chkAltModels[0].enabled, row.zombies);
+            QCOMPARE(controls.chkAltModels[1].enabled, row.first);
+            QCOMPARE(controls.chkAltModels[2].enabled, row.second);
+            QCOMPARE(controls.chkAltModels[3].enabled, row.replacements);
+            QCOMPARE(controls.FrameModel[0].enabled, row.frame);
+            QCOMPARE(controls.chkAltModels[3].value(), 1); // the tick stays, pack or not
+        }
+
+        // The engine's own add-on is like a scripted map.
+        OptionLauncher options(Packs::All);
+        const auto launcher = options.load(advanced());
+        launcher->selection.SelectedGameFile = u"/x/VEXLEV.wad"_s;
+        QCOMPARE(changes(*launcher, rule(DetectModelPacks)), u"-FrameModel_0 -chkAltModels_2"_s);
+        QVERIFY(launcher->selection.ScriptedMap);
+        QCOMPARE(changes(*launcher, rule(DetectModelPacks)), u"-chkAltModels_3"_s);
+    }
+
+    // What is in a pack's folder has no say in other options.
+    void garbageInPacks()
+    {
+        OptionLauncher options(Packs::All);
+        const QString before = OptionLauncher::doomLine(*options.load(advanced()));
+        options.installation.add(u"Defs/Model/hudweapons.ded"_s, QByteArray(3000, '\xff'));
+        options.installation.add(u"Defs/Model/Tovrens/hudweapons.ded"_s, QByteArray("\0,\r\n\0", 5));
+        QCOMPARE(OptionLauncher::doomLine(*options.load(advanced())), before);
+        options.installation.add(u"Defs/Model/Tovrens/hudweapons.ded"_s,
+                                 "# hweapons version 10 - Do not edit this line,x");
+        QString withoutReplacements = before;
+        QCOMPARE(OptionLauncher::doomLine(*options.load(advanced())), withoutReplacements.remove(u"-am "_s));
+    }
+
+    void toolTips()
+    {
+        OptionLauncher options(Packs::None);
+        const auto launcher = options.load(advanced());
+        Controls& controls = launcher->controls;
+        QCOMPARE(controls.ExitOption[2].toolTip, u"Exit out of launcher after having launched a game."_s);
+        QCOMPARE(controls.SkillsLevel[1].toolTip, u"Skill level - sets the degree of difficulty.\r\n"
+                                                  "Note: The 'Start game from new' option\r\n"
+                                                  "takes you to the default Doom startup."_s);
+        QCOMPARE(controls.Auto[0].toolTip, u" Toggle Keldrax scripted maps if installed. "_s);
+        controls.chkMain[2].setTicked(false); // no switch in default mode
+        QVERIFY(controls.Auto[0].toolTip.isEmpty());
+        controls.chkLaunchPrefs[3].setTicked(true);
+        QVERIFY(controls.ExitOption[2].toolTip.isEmpty() && controls.PwadList.toolTip.isEmpty());
+        controls.chkMain[2].setTicked(true);
+        QVERIFY(controls.Auto[0].toolTip.isEmpty());
+        controls.chkLaunchPrefs[3].setTicked(false);
+        QVERIFY(!controls.ExitOption[2].toolTip.isEmpty() && !controls.Auto[0].toolTip.isEmpty());
+    }
+
+    // The line under the command line is the one that starts, and looking at it changes nothing.
+    void preview()
+    {
+        CommercialGame game;
+        Launcher& launcher = game.launcher;
+        Controls& controls = launcher.controls;
+        controls.chkMain[2].setTicked(true);
+        controls.edCustom.text = u"-own \"a b\""_s;
+        game.pickSkill(3);
+        const ControlStates before(controls);
+        UpdateCommandPreview(launcher);
+        const QString line = controls.CommandPreview.text;
+        QCOMPARE(before.differences(ControlStates(controls)).size(), 1); // the line itself
+        QVERIFY(!launcher.launch.RicochetOn && !launcher.launch.AfterLaunch);
+        controls.CopyPreview.clicked();
+        QCOMPARE(game.window.copied, line);
+        controls.LaunchButton.clicked();
+        QCOMPARE(game.processes.lastCommandLine(), line);
+
+        controls.chkMain[7].setTicked(true);
+        UpdateCommandPreview(launcher);
+        QVERIFY(controls.CommandPreview.text.contains(u" -v "_s));
+        QVERIFY(QFile::remove(game.path(u"Iwads/Doom2.wad"_s)));
+        UpdateCommandPreview(launcher); // asks nothing
+        QVERIFY(controls.CommandPreview.text.isEmpty() && !controls.CopyPreview.enabled);
+        QVERIFY(controls.CommandPreview.toolTip.startsWith(u"There appears to be a problem"_s));
+    }
+
+    // A game that needs Basic Doom gets it for one launch; whatever it changed on the way is back.
+    void basicDoomForOneLaunch()
+    {
+        OptionLauncher options(Packs::All);
+        Settings settings = advanced();
+        settings.CoreEffects = true;
+        settings.ResurrectCorpses = false;
+        const auto launcher = options.load(settings);
+        options.installation.add(u"VYKLaunch/Data/checkpwad.vyk"_s, "Check7,game.wad,");
+        OptionLauncher::installedLine(*launcher); // what every launch looks for
+        const ControlStates before(launcher->controls);
+        QVERIFY(OptionLauncher::installedLine(*launcher).contains(u" -nc "_s));
+        QCOMPARE(before.differences(ControlStates(launcher->controls)), QStringList());
+        QVERIFY(launcher->settings.CoreEffects && !launcher->settings.BasicDoom);
     }
 };
 

@@ -113,19 +113,19 @@ public:
     }
 
     // The same options, saved and loaded again.
-    std::unique_ptr<Launcher> reload(Launcher& launcher)
+    std::unique_ptr<Launcher> reload(Launcher& changed)
     {
-        ReadControlsToSettings(launcher.settings, launcher.controls);
+        ReadControlsToSettings(changed.settings, changed.controls);
         Settings settings = DefaultSettings();
-        if (ReadSettings(settings, SettingsLines(launcher.settings, true), true) != ReadResult::Complete)
+        if (ReadSettings(settings, SettingsLines(changed.settings, true), true) != ReadResult::Complete)
             qFatal("what was saved cannot be read");
         return load(settings);
     }
 
-    static QString doomLine(Launcher& launcher) { return PlanCommercialGame(launcher).commandLine; }
-    static QString installedLine(Launcher& launcher)
+    static QString doomLine(Launcher& game) { return PlanCommercialGame(game).commandLine; }
+    static QString installedLine(Launcher& game)
     {
-        return PlanInstalledGame(launcher, [](const QString&) { return 0; }).commandLine;
+        return PlanInstalledGame(game, [](const QString&) { return 0; }).commandLine;
     }
 
 private:
