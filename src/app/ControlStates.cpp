@@ -108,7 +108,7 @@ QStringList ControlStates::differences(const ControlStates& later) const
 
 QString ControlStates::State::description() const
 {
-    return u"%1%2%3%4 '%5' '%6'"_s.arg(value)
-        .arg(enabled ? u""_s : u" greyed"_s, visible ? u""_s : u" hidden"_s,
-             colour == Colour::Accent ? u" accent"_s : u""_s, caption, text);
+    return u"%1%2%3%4 '%5' '%6'"_s.arg(value).arg(
+        enabled ? u""_s : u" greyed"_s, visible ? u""_s : u" hidden"_s,
+        colour == Colour::Accent ? u" accent"_s : u""_s, caption, text);
 }

@@ -129,10 +129,9 @@ void allowOptions(Launcher& launcher)
     Selection& selection = launcher.selection;
     selection.ScriptedMap = false;
     if (launcher.settings.ListMode == installedGames) {
-        const ScriptedMapCheck map =
-            selection.PwadSelected
-                ? IsScriptedMap(launcher.files, launcher.paths, launcher.settings.SelectedGame)
-                : ScriptedMapCheck();
+        const ScriptedMapCheck map = selection.PwadSelected ? IsScriptedMap(launcher.files, launcher.paths,
+                                                                            launcher.settings.SelectedGame)
+                                                            : ScriptedMapCheck();
         selection.ScriptedMap = map.isScriptedMap && map.isComplete;
         map.isScriptedMap ? KillSpriteOptions(launcher) : RestoreSpriteOptions(launcher);
     }

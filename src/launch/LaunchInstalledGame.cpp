@@ -52,28 +52,27 @@ QString gameName(const Launcher& launcher)
 }
 
 // The message that stops the launch of a scripted map or of the add-on's level; nothing when it may start.
-std::optional<LaunchMessage> missingResources(const Launcher& launcher,
-                                                            const ScriptedMapCheck& map)
+std::optional<LaunchMessage> missingResources(const Launcher& launcher, const ScriptedMapCheck& map)
 {
     const QString mainWad = launcher.selection.SelectedGameFile;
     if (SameName(FileNameOf(mainWad), u"Vexlev.wad"_s) && CheckVexAddon(launcher.files, launcher.paths))
         return LaunchMessage{u"   This map requires the latest version of the Keldrax VEX \r\n"
-                 "   addon available from the Keldrax website's maps section.   "_s,
-                 u" VEX Addon required"_s};
+                             "   addon available from the Keldrax website's maps section.   "_s,
+                             u" VEX Addon required"_s};
     if (map.isScriptedMap && !map.isComplete)
         return LaunchMessage{u"   Components of this map are either missing or not compatible \r\n"
-                 "   with this version of Keldrax, download the latest version   \r\n"
-                 "   of this map from the Keldrax website's Maps section.        "_s,
-                 u" Map error - updated map required"_s};
+                             "   with this version of Keldrax, download the latest version   \r\n"
+                             "   of this map from the Keldrax website's Maps section.        "_s,
+                             u" Map error - updated map required"_s};
     if (launcher.selection.ScriptedMap && launcher.modelPacks.ModelPacksMissing)
         return LaunchMessage{u"   Keldrax maps require the model packs to be installed \r\n"
-                 "   Model packs are available from the Keldrax website. "_s,
-                 u" Model packs required"_s};
+                             "   Model packs are available from the Keldrax website. "_s,
+                             u" Model packs required"_s};
     if (launcher.selection.ScriptedMap && CheckScriptedMapDate(launcher.files, mainWad))
         return LaunchMessage{u"   This map is an older version and not compatible with \r\n"
-                 "   this version of Keldrax, download the latest version \r\n"
-                 "   of this map from the Keldrax website's maps section. "_s,
-                 u" Map update required"_s};
+                             "   this version of Keldrax, download the latest version \r\n"
+                             "   of this map from the Keldrax website's maps section. "_s,
+                             u" Map update required"_s};
     return std::nullopt;
 }
 

@@ -77,8 +77,9 @@ LaunchPlan FinishPlan(Launcher& launcher, LaunchPlan plan, const QString& comman
     if (canBeQuoted(launcher, own, names))
         plan.commandLine = own + CustomText(launcher);
     else
-        plan.refusal = LaunchMessage{u"A file or folder name holds a double quote, which the engine's command "
-                                     "line cannot carry.    \r\nRename it and try again.    "_s,
-                                     u" Launch error"_s};
+        plan.refusal =
+            LaunchMessage{u"A file or folder name holds a double quote, which the engine's command "
+                          "line cannot carry.    \r\nRename it and try again.    "_s,
+                          u" Launch error"_s};
     return plan;
 }

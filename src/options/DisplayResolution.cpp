@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 lineBytes = 256; // no line of the file is longer
+constexpr qint64 longestLine = 80; // the engine's are half as long
 constexpr qsizetype textStart = 2; // after the mode letter and a separator
 
 QString resolutionFile(const Launcher& launcher)
@@ -20,16 +20,17 @@ QString resolutionFile(const Launcher& launcher)
 QString firstLine(const Launcher& launcher)
 {
     try {
-        return LinesOf(FromAnsi(launcher.files.read(resolutionFile(launcher), lineBytes))).value(0);
+        return LinesOf(FromAnsi(launcher.files.read(resolutionFile(launcher), longestLine + 1))).value(0);
     } catch (const FileError&) {
         return {};
     }
 }
 
-// What is no character to be shown, the engine has not written.
-bool isText(const QString& line)
+// The engine has not written what is too long or cannot be shown.
+bool isUsable(const QString& line)
 {
-    return std::ranges::all_of(line, [](QChar c) { return c.isPrint() || c == u'\t'; });
+    return line.size() <= longestLine &&
+           std::ranges::all_of(line, [](QChar c) { return c.isPrint() || c == u'\t'; });
 }
 
 QString withoutLeadingBlanks(const QString& text)
@@ -51,7 +52,7 @@ void GetCurrentRes(Launcher& launcher)
     labels[1].caption = u"Default Resolution"_s;
     labels[2].caption.clear();
     labels[3].caption.clear();
-    if (resolution.isEmpty() || resolution.startsWith(u'0') || !isText(line))
+    if (resolution.isEmpty() || resolution.startsWith(u'0') || !isUsable(line))
         return;
 
     labels[1].caption = resolution;

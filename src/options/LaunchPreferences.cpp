@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int greyed = 2; // changes nothing
+constexpr int greyed = 2;            // changes nothing
 constexpr size_t shortcutButton = 2; // AuxButton
 
 void forgetMaps(Launcher& launcher, bool on)

@@ -28,7 +28,8 @@ QString installedPacks(const ModelPacks& packs)
     if (packs.ModelPack2Installed)
         return packs.KelspackInstalled ? u" All model packs installed "_s
                                        : u" Model packs 1 and 2 installed "_s;
-    return packs.KelspackInstalled ? u" Model pack 1 and Kelspack installed "_s : u" Model pack 1 installed "_s;
+    return packs.KelspackInstalled ? u" Model pack 1 and Kelspack installed "_s
+                                   : u" Model pack 1 installed "_s;
 }
 
 // A box that can be ticked but is not says no.
@@ -101,8 +102,7 @@ void DetectModelPacks(Launcher& launcher)
 
 void DetectKelspack(Launcher& launcher)
 {
-    launcher.modelPacks.KelspackInstalled =
-        FindModelPacks(launcher.files, launcher.paths).KelspackInstalled;
+    launcher.modelPacks.KelspackInstalled = FindModelPacks(launcher.files, launcher.paths).KelspackInstalled;
 }
 
 void ShowModelAdvice(Launcher& launcher)

@@ -7,7 +7,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Sound : size_t { NoSound, NoMusic, Ricochets, Sound3D, Auto, Manual, Pack, Spare7, Spare8, Midi, Ignore };
+enum Sound : size_t {
+    NoSound,
+    NoMusic,
+    Ricochets,
+    Sound3D,
+    Auto,
+    Manual,
+    Pack,
+    Spare7,
+    Spare8,
+    Midi,
+    Ignore
+};
 
 void silence(Controls& controls)
 {

@@ -221,8 +221,8 @@ private Q_SLOTS:
         QCOMPARE(game.processes.lastCommandLine(), engine + u" -Doom2 "_s + options);
         QVERIFY(!launcher.settings.TovrensReplacements && !launcher.settings.KelspackWeapons);
 
-        for (const QString& file :
-             {u"Md2/Kelspack/kelspack.wad"_s, u"Md2/Kelspack/AK47/AK47.md2"_s, u"Md2/Tovrens/Gore/Gore6.dmd"_s})
+        for (const QString& file : {u"Md2/Kelspack/kelspack.wad"_s, u"Md2/Kelspack/AK47/AK47.md2"_s,
+                                    u"Md2/Tovrens/Gore/Gore6.dmd"_s})
             game.installation.add(file);
         launcher.modelPacks.ModelPacksMissing = false;
         game.installation.add(u"Defs/Model/Tovrens/hudweapons.ded"_s,

@@ -60,16 +60,16 @@ inline void AddPacks(TemporaryInstallation& installation, int packs)
     } contents[] = {
         {Packs::CoreEffects, {u"Md2/CoreEffects/a.md2"_s, u"Defs/Base/CoreEffects.ded"_s}},
         {Packs::Models,
-         {u"Md2/HudWeapons/SuperShotgun/db-shells.md2"_s, u"Md2/Monsters/Imp/imp.md2"_s, u"Defs/Model/FlameModels.ded"_s,
-          u"Defs/Model/ExtraFX.ded"_s, u"Defs/Model/WeapSmoke.ded"_s}},
+         {u"Md2/HudWeapons/SuperShotgun/db-shells.md2"_s, u"Md2/Monsters/Imp/imp.md2"_s,
+          u"Defs/Model/FlameModels.ded"_s, u"Defs/Model/ExtraFX.ded"_s, u"Defs/Model/WeapSmoke.ded"_s}},
         {Packs::Tovrens,
          {u"Md2/Tovrens/Gore/Gore6.dmd"_s, u"Md2/Tovrens/Gore/Gore3.dmd"_s, u"Md2/Tovrens/Gore/hang1.jpg"_s}},
         {Packs::Kelspack,
-         {u"Md2/Kelspack/AK47/AK47.md2"_s, u"Md2/Kelspack/kelspack.wad"_s, u"Defs/Model/Kelspack/Fullpack.ded"_s,
-          u"Defs/Model/Kelspack/Alternative.ded"_s}},
+         {u"Md2/Kelspack/AK47/AK47.md2"_s, u"Md2/Kelspack/kelspack.wad"_s,
+          u"Defs/Model/Kelspack/Fullpack.ded"_s, u"Defs/Model/Kelspack/Alternative.ded"_s}},
         {Packs::Graphics,
-         {u"Data/patches/stbar.png"_s, u"Data/Textures/a.png"_s, u"Data/dtex/detail.wad"_s, u"Data/Skyboxes/a.png"_s,
-          u"Data/hv_doom_sfx.wad"_s}},
+         {u"Data/patches/stbar.png"_s, u"Data/Textures/a.png"_s, u"Data/dtex/detail.wad"_s,
+          u"Data/Skyboxes/a.png"_s, u"Data/hv_doom_sfx.wad"_s}},
     };
     for (const auto& row : contents)
         if (packs & row.pack)
@@ -91,7 +91,8 @@ public:
 
     std::unique_ptr<Launcher> load(const Settings& settings)
     {
-        auto loaded = std::make_unique<Launcher>(m_unchanging, processes, prompts, window, installation.root());
+        auto loaded =
+            std::make_unique<Launcher>(m_unchanging, processes, prompts, window, installation.root());
         loaded->environment = {};
         loaded->settings = settings;
         PrepareOptions(*loaded);
