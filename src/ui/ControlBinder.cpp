@@ -1,5 +1,6 @@
 #include "ui/ControlBinder.h"
 
+#include "ui/FrameView.h"
 #include "ui/ListView.h"
 #include "ui/StyleView.h"
 #include "ui/TaskMenuView.h"
@@ -13,23 +14,13 @@
 
 #include <utility>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-void writeShared(const Control& control, QWidget* widget)
-{
-    // A widget of a page that is not shown keeps its own flag, so ask for it, not for what is seen.
-    if (widget->isVisibleTo(widget->parentWidget()) != control.visible)
-        widget->setVisible(control.visible);
-    if (widget->testAttribute(Qt::WA_ForceDisabled) == control.enabled)
-        widget->setEnabled(control.enabled);
-    if (widget->toolTip() != control.toolTip)
-        widget->setToolTip(control.toolTip);
-    ShowAccent(widget, control.colour == Colour::Accent);
-}
+namespace {
 
 void writeCaption(const Control& control, QAbstractButton* button)
 {
-    const QString caption = AsPlainCaption(control.caption);
+    const QString caption = AsPlainCaption(control.caption.trimmed());
     if (button->text() != caption)
         button->setText(caption);
 }
@@ -48,30 +39,76 @@ QString NameOf(const QString& array, int index)
     return array + u'_' + QString::number(index);
 }
 
+ControlBinder::ControlBinder(QWidget* window) : QObject(window)
+{
+    SetUpToolTips(m_toolTips, window);
+}
+
+void ControlBinder::writePart(const Control& control, QWidget* widget)
+{
+    // A widget of a page that is not shown keeps its own flag, so ask for it, not for what is seen.
+    if (widget->isVisibleTo(widget->parentWidget()) != control.visible)
+        widget->setVisible(control.visible);
+    writeToolTip(control, widget);
+    ShowAccent(widget, control.colour == Colour::Accent);
+}
+
+void ControlBinder::writeShared(const Control& control, QWidget* widget)
+{
+    writePart(control, widget);
+    if (widget->testAttribute(Qt::WA_ForceDisabled) == control.enabled)
+        widget->setEnabled(control.enabled);
+}
+
+void ControlBinder::writeToolTip(const Control& control, QWidget* widget)
+{
+    const QString& text = control.toolTip;
+    if (!clsToolTip::fIsWindow(widget)) {
+        if (widget->toolTip() != text)
+            widget->setToolTip(text);
+    } else if (text.isEmpty()) {
+        m_toolTips.RemoveTool(widget);
+    } else if (!m_toolTips.AddTool(widget, text) && m_toolTips.ToolText(widget) != text) {
+        m_toolTips.setToolText(widget, text);
+    }
+}
+
 void ControlBinder::bind(const QString& objectName, Control& control, QWidget* widget,
-                         std::function<void(const QString&)> setCaption)
+                         std::function<void()> writeRest)
 {
     name(widget, objectName, control.caption);
-    m_writers.emplace_back([&control, widget, setCaption = std::move(setCaption)] {
-        writeShared(control, widget);
-        if (setCaption)
-            setCaption(control.caption);
+    m_writers.emplace_back([this, &control, widget, writeRest = std::move(writeRest)] {
+        writePart(control, widget);
+        if (writeRest)
+            writeRest();
+    });
+}
+
+void ControlBinder::bind(const QString& objectName, Control& control, FrameView* frame)
+{
+    bind(objectName, control, frame, [&control, frame] {
+        const QString title = AsPlainCaption(control.caption.trimmed());
+        if (frame->title() != title)
+            frame->setTitle(title);
+        frame->setGreyed(!control.enabled);
     });
 }
 
 void ControlBinder::bind(const QString& objectName, Control& control, QLabel* label)
 {
+    name(label, objectName, control.caption);
     label->setTextFormat(Qt::PlainText);
-    bind(objectName, control, label, [label](const QString& caption) {
-        if (label->text() != caption)
-            label->setText(caption);
+    m_writers.emplace_back([this, &control, label] {
+        writeShared(control, label);
+        if (label->text() != control.caption)
+            label->setText(control.caption);
     });
 }
 
 void ControlBinder::bind(const QString& objectName, Button& control, QAbstractButton* button)
 {
     name(button, objectName, control.caption);
-    m_writers.emplace_back([&control, button] {
+    m_writers.emplace_back([this, &control, button] {
         writeShared(control, button);
         writeCaption(control, button);
     });
@@ -86,7 +123,7 @@ void ControlBinder::bind(const QString& objectName, Button& control, QAbstractBu
 void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox* box)
 {
     name(box, objectName, control.caption);
-    m_writers.emplace_back([&control, box] {
+    m_writers.emplace_back([this, &control, box] {
         writeShared(control, box);
         writeCaption(control, box);
         if (box->isChecked() != control.ticked())
@@ -102,7 +139,7 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
     for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
         QAbstractButton* button = buttons.at(i);
         name(button, NameOf(objectName, i), control[i].caption);
-        m_writers.emplace_back([&control, i, button] {
+        m_writers.emplace_back([this, &control, i, button] {
             writeShared(control[i], button);
             writeCaption(control[i], button);
             if (button->isChecked() != (control.selected() == i))
@@ -117,10 +154,15 @@ void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit*
 {
     name(edit, objectName, control.caption);
     edit->setAcceptDrops(false); // files dropped on it are for the window
-    m_writers.emplace_back([&control, edit] {
+    m_writers.emplace_back([this, &control, edit] {
         writeShared(control, edit);
-        if (edit->text() != control.text)
+        if (edit->text() != control.text) {
             edit->setText(control.text);
+            if (edit->isReadOnly())
+                edit->setCursorPosition(0); // a text that is too long shows its start
+        }
+        if (edit->isReadOnly())
+            edit->setPlaceholderText(QString(control.toolTip).replace(u"\r\n"_s, u" "_s));
     });
     connect(edit, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
         run([&control, text] {
@@ -134,7 +176,7 @@ void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit*
 void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* list)
 {
     name(list, objectName, control.caption);
-    m_writers.emplace_back([&control, list] {
+    m_writers.emplace_back([this, &control, list] {
         writeShared(control, list);
         list->showList(control);
     });
@@ -158,7 +200,7 @@ void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* 
 void ControlBinder::bind(const QString& objectName, ListBox& control, QComboBox* list)
 {
     name(list, objectName, control.caption);
-    m_writers.emplace_back([&control, list, shown = QStringList()]() mutable {
+    m_writers.emplace_back([this, &control, list, shown = QStringList()]() mutable {
         writeShared(control, list);
         if (shown != control.entries()) {
             shown = control.entries();
@@ -198,6 +240,7 @@ void ControlBinder::runAfter(std::function<void()> event)
 
 void ControlBinder::write()
 {
+    Q_EMIT aboutToWrite();
     for (const auto& writer : m_writers)
         writer();
     Q_EMIT written();
