@@ -186,8 +186,10 @@ void MainForm::buildOptionPage(int page)
     QScrollArea* place = m_optionPages.at(page);
     place->setWidget(pages[page]());
 
-    // The keyboard comes by between the tabs and the strip, not last.
+    // The keyboard comes by where the page lies in the window, not last.
     QWidget* before = place;
+    while (!(before->focusPolicy() & Qt::TabFocus))
+        before = before->previousInFocusChain();
     for (QWidget* widget : place->widget()->findChildren<QWidget*>())
         if ((widget->focusPolicy() & Qt::TabFocus) && widget->window() == this) {
             setTabOrder(before, widget);

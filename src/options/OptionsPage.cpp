@@ -77,7 +77,7 @@ QWidget* controlsFrame(Controls& controls, PageBinder& make, QWidget* hotSpot)
                           }),
                           PageBinder::row({
                               make.checkBox(u"TexPathLabel"_s, controls.TexPathLabel),
-                              make.button(u"AuxButton_9"_s, controls.AuxButton[9], u"Hi-res location"_s),
+                              make.button(u"AuxButton_9"_s, controls.AuxButton[9], u"Browse for the hi-res location"_s),
                           }),
                           purge(controls, make, 1, 0),
                           purge(controls, make, 0, 1),

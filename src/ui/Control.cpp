@@ -52,8 +52,8 @@ void ListBox::add(const ListEntry& entry)
 {
     qsizetype position = m_entries.size();
     if (m_order == Order::Sorted)
-        position =
-            std::ranges::upper_bound(std::as_const(m_entries), entry.text, comesBefore) - m_entries.cbegin();
+        position = std::ranges::upper_bound(std::as_const(m_entries), entry.text, comesBefore) -
+                   m_entries.cbegin();
     m_entries.insert(position, entry.text);
     m_names.insert(position, entry.name);
     if (m_selected >= position)

@@ -25,13 +25,6 @@ void writeCaption(const Control& control, QAbstractButton* button)
         button->setText(caption);
 }
 
-void name(QWidget* widget, const QString& objectName, const QString& accessibleName)
-{
-    widget->setObjectName(objectName);
-    if (widget->accessibleName().isEmpty())
-        widget->setAccessibleName(accessibleName.trimmed().isEmpty() ? objectName : accessibleName.trimmed());
-}
-
 } // namespace
 
 QString NameOf(const QString& array, int index)
@@ -44,11 +37,28 @@ ControlBinder::ControlBinder(QWidget* window) : QObject(window)
     SetUpToolTips(m_toolTips, window);
 }
 
+void ControlBinder::name(QWidget* widget, const QString& objectName)
+{
+    widget->setObjectName(objectName);
+    if (!widget->accessibleName().isEmpty())
+        return;
+    widget->setAccessibleName(objectName);
+    m_namedByCaption.insert(widget);
+}
+
+void ControlBinder::writeName(const Control& control, QWidget* widget)
+{
+    const QString caption = control.caption.trimmed();
+    if (!caption.isEmpty() && m_namedByCaption.contains(widget) && widget->accessibleName() != caption)
+        widget->setAccessibleName(caption);
+}
+
 void ControlBinder::writePart(const Control& control, QWidget* widget)
 {
     // A widget of a page that is not shown keeps its own flag, so ask for it, not for what is seen.
     if (widget->isVisibleTo(widget->parentWidget()) != control.visible)
         widget->setVisible(control.visible);
+    writeName(control, widget);
     writeToolTip(control, widget);
     ShowAccent(widget, control.colour == Colour::Accent);
 }
@@ -76,7 +86,7 @@ void ControlBinder::writeToolTip(const Control& control, QWidget* widget)
 void ControlBinder::bind(const QString& objectName, Control& control, QWidget* widget,
                          std::function<void()> writeRest)
 {
-    name(widget, objectName, control.caption);
+    name(widget, objectName);
     m_writers.emplace_back([this, &control, widget, writeRest = std::move(writeRest)] {
         writePart(control, widget);
         if (writeRest)
@@ -96,7 +106,7 @@ void ControlBinder::bind(const QString& objectName, Control& control, FrameView*
 
 void ControlBinder::bind(const QString& objectName, Control& control, QLabel* label)
 {
-    name(label, objectName, control.caption);
+    name(label, objectName);
     label->setTextFormat(Qt::PlainText);
     m_writers.emplace_back([this, &control, label] {
         writeShared(control, label);
@@ -107,7 +117,7 @@ void ControlBinder::bind(const QString& objectName, Control& control, QLabel* la
 
 void ControlBinder::bind(const QString& objectName, Button& control, QAbstractButton* button)
 {
-    name(button, objectName, control.caption);
+    name(button, objectName);
     m_writers.emplace_back([this, &control, button] {
         writeShared(control, button);
         writeCaption(control, button);
@@ -122,7 +132,7 @@ void ControlBinder::bind(const QString& objectName, Button& control, QAbstractBu
 
 void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox* box)
 {
-    name(box, objectName, control.caption);
+    name(box, objectName);
     m_writers.emplace_back([this, &control, box] {
         writeShared(control, box);
         writeCaption(control, box);
@@ -138,7 +148,7 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
 {
     for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
         QAbstractButton* button = buttons.at(i);
-        name(button, NameOf(objectName, i), control[i].caption);
+        name(button, NameOf(objectName, i));
         m_writers.emplace_back([this, &control, i, button] {
             writeShared(control[i], button);
             writeCaption(control[i], button);
@@ -152,7 +162,7 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
 
 void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit* edit)
 {
-    name(edit, objectName, control.caption);
+    name(edit, objectName);
     edit->setAcceptDrops(false); // files dropped on it are for the window
     m_writers.emplace_back([this, &control, edit] {
         writeShared(control, edit);
@@ -175,7 +185,7 @@ void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit*
 
 void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* list)
 {
-    name(list, objectName, control.caption);
+    name(list, objectName);
     m_writers.emplace_back([this, &control, list] {
         writeShared(control, list);
         list->showList(control);
@@ -199,7 +209,7 @@ void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* 
 
 void ControlBinder::bind(const QString& objectName, ListBox& control, QComboBox* list)
 {
-    name(list, objectName, control.caption);
+    name(list, objectName);
     m_writers.emplace_back([this, &control, list, shown = QStringList()]() mutable {
         writeShared(control, list);
         if (shown != control.entries()) {

@@ -4,6 +4,7 @@
 #include "ui/ToolTipView.h"
 
 #include <QObject>
+#include <QSet>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -56,11 +57,14 @@ Q_SIGNALS:
     void written();
 
 private:
+    void name(QWidget* widget, const QString& objectName);
+    void writeName(const Control& control, QWidget* widget);
     void writePart(const Control& control, QWidget* widget);
     void writeShared(const Control& control, QWidget* widget);
     void writeToolTip(const Control& control, QWidget* widget);
 
     clsToolTip m_toolTips;
+    QSet<const QWidget*> m_namedByCaption; // their accessible name is the caption, as it changes
     std::vector<std::function<void()>> m_writers;
     std::vector<std::function<void()>> m_waiting; // until nothing runs
     int m_running = 0;                            // events within each other

@@ -214,6 +214,8 @@ bool clsToolTip::eventFilter(QObject* watched, QEvent* event)
 
 void clsToolTip::enter(QWidget* control)
 {
+    if (control == m_under)
+        return;
     if (m_under)
         leave();
     m_under = control;
