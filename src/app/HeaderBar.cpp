@@ -47,8 +47,7 @@ void HeaderBar::arrange(TitleView* picture, Controls& controls, ControlBinder& b
     links->addStretch();
 
     Button& title = controls.TitlePic;
-    binder.bind(u"TitlePic"_s, title, picture,
-                [picture, &title](const QString&) { picture->showPicture(title.text); });
+    binder.bind(u"TitlePic"_s, title, picture, [picture, &title] { picture->showPicture(title.text); });
     connect(picture, &TitleView::clicked, this, [&binder, &title] { binder.run(title.clicked); });
 }
 
@@ -61,7 +60,8 @@ QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
 
     constexpr int install = 0;
     constexpr int iwadLocations = 5;
-    for (const int tool : {install, iwadLocations}) {
+    constexpr int modelCleanup = 8;
+    for (const int tool : {install, iwadLocations, modelCleanup}) {
         auto* button = new QPushButton;
         binder.bind(NameOf(u"AuxButton"_s, tool), controls.AuxButton[static_cast<size_t>(tool)], button);
         row->addWidget(button);
@@ -77,6 +77,7 @@ QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
         auto* tab = new QPushButton;
         tab->setCheckable(true);
         tab->setMinimumWidth(96);
+        tab->setFocusPolicy(Qt::TabFocus); // a click leaves no focus mark
         tabs << tab;
         row->addWidget(tab);
     }

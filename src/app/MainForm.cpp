@@ -5,6 +5,11 @@
 #include "app/StripBar.h"
 #include "catalogue/GamesPage.h"
 #include "iwads/IwadForm.h"
+#include "launch/CommandPreview.h"
+#include "options/GraphicsPage.h"
+#include "options/ModelsPage.h"
+#include "options/OptionsPage.h"
+#include "options/SoundPage.h"
 #include "platform/Paths.h"
 #include "ui/FilterView.h"
 #include "ui/TitleView.h"
@@ -14,9 +19,9 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -46,7 +51,7 @@ QStringList draggedGames(const QMimeData& dragged)
 
 } // namespace
 
-MainForm::MainForm()
+MainForm::MainForm() : m_binder(this)
 {
     setObjectName(u"MainForm"_s);
     resize(advancedSize);
@@ -56,6 +61,7 @@ void MainForm::attach(Launcher& launcher)
 {
     m_launcher = &launcher;
     m_title = new TitleView(this);
+    connect(&m_binder, &ControlBinder::aboutToWrite, this, &MainForm::beforeWrite);
     connect(&m_binder, &ControlBinder::written, this, &MainForm::afterWrite);
 }
 
@@ -74,12 +80,14 @@ void MainForm::build()
     m_binder.bind(u"TabFrame_0"_s, controls.TabFrame[0], games);
     below->addWidget(games, 1);
     for (int tab = 1; tab < controls.OptionTabs.count(); ++tab) {
-        auto* page =
-            new QLabel(u"The options of this page cannot be changed here yet; those in config.vyk apply."_s);
-        page->setAlignment(Qt::AlignCenter);
+        auto* page = new QScrollArea; // large fonts may need more room than there is
+        page->setFrameShape(QFrame::NoFrame);
+        page->setFocusPolicy(Qt::NoFocus);
+        page->setWidgetResizable(true);
         m_binder.bind(NameOf(u"TabFrame"_s, tab), controls.TabFrame[static_cast<size_t>(tab)],
                       static_cast<QWidget*>(page));
         below->addWidget(page, 1);
+        m_optionPages << page;
     }
     below->addWidget(new StripBar(controls, m_binder));
     rows->addLayout(below, 1);
@@ -153,6 +161,40 @@ void MainForm::copyText(const QString& text)
 void MainForm::endProgram()
 {
     QCoreApplication::exit(0);
+}
+
+void MainForm::beforeWrite()
+{
+    if (!layout())
+        return;
+    UpdateCommandPreview(*m_launcher);
+    const Controls& controls = m_launcher->controls;
+    for (int page = 0; page < m_optionPages.size(); ++page)
+        if (controls.TabFrame[static_cast<size_t>(page + 1)].visible && !m_optionPages.at(page)->widget())
+            buildOptionPage(page);
+}
+
+void MainForm::buildOptionPage(int page)
+{
+    Controls& controls = m_launcher->controls;
+    const std::function<QWidget*()> pages[] = {
+        [&] { return new OptionsPage(controls, m_binder); },
+        [&] { return new GraphicsPage(controls, m_binder); },
+        [&] { return new SoundPage(controls, m_binder); },
+        [&] { return new ModelsPage(controls, m_binder); },
+    };
+    QScrollArea* place = m_optionPages.at(page);
+    place->setWidget(pages[page]());
+
+    // The keyboard comes by where the page lies in the window, not last.
+    QWidget* before = place;
+    while (!(before->focusPolicy() & Qt::TabFocus))
+        before = before->previousInFocusChain();
+    for (QWidget* widget : place->widget()->findChildren<QWidget*>())
+        if ((widget->focusPolicy() & Qt::TabFocus) && widget->window() == this) {
+            setTabOrder(before, widget);
+            before = widget;
+        }
 }
 
 void MainForm::afterWrite()

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class IwadForm;
+class QScrollArea;
 class TitleView;
 
 // The main window: composes the pages, forwards the window's events, and is what the launcher asks of it.
@@ -47,12 +48,15 @@ protected:
 
 private:
     void build();
+    void beforeWrite();
+    void buildOptionPage(int page);
     void afterWrite();
     void fitMode(); // the height that goes with the mode
 
     Launcher* m_launcher = nullptr; // set by attach
     ControlBinder m_binder;
     TitleView* m_title = nullptr;
-    IwadForm* m_iwadForm = nullptr; // from its first use on
-    bool m_compact = false;         // as the window is sized
+    QList<QScrollArea*> m_optionPages; // those of the tabs after the first; each is filled when it is shown
+    IwadForm* m_iwadForm = nullptr;    // from its first use on
+    bool m_compact = false;            // as the window is sized
 };

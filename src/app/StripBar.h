@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class PageBinder;
 class QBoxLayout;
 
 // The strip below the tabs: how to play, the command panel, and the Launch button.
@@ -20,9 +21,10 @@ protected:
 
 private:
     void enlargeLaunch(); // its text, against the font of the others
-    QBoxLayout* playRow(Controls& controls, ControlBinder& binder);
-    QWidget* commandPanel(Controls& controls, ControlBinder& binder);
-    QBoxLayout* launchRow(Controls& controls, ControlBinder& binder);
+    QBoxLayout* playRow(Controls& controls, PageBinder& make, ControlBinder& binder);
+    QWidget* commandPanel(Controls& controls, PageBinder& make, ControlBinder& binder);
+    QWidget* lightLevel(Controls& controls, PageBinder& make);
+    QBoxLayout* launchRow(Controls& controls, PageBinder& make);
 
     QWidget* m_launch = nullptr;
 };

@@ -35,6 +35,7 @@ IwadForm::IwadForm(Launcher& launcher, QWidget* parent)
 {
     setWindowTitle(u" Iwad Locations"_s);
     setObjectName(u"IwadForm"_s);
+    SetUpToolTips(m_toolTips, this);
 
     auto* boxes = new QVBoxLayout(m_boxes);
     boxes->setContentsMargins(0, 0, 0, 0);
@@ -53,8 +54,7 @@ IwadForm::IwadForm(Launcher& launcher, QWidget* parent)
         auto* widget = new QPushButton(caption);
         widget->setObjectName(name);
         widget->setAutoDefault(false);
-        if (!m_launcher.settings.DisableToolTips)
-            widget->setToolTip(toolTip);
+        m_tips << std::pair<QWidget*, QString>(widget, toolTip);
         connect(widget, &QPushButton::clicked, this, pressed);
         buttons->addWidget(widget);
         return widget;
@@ -110,9 +110,20 @@ QFrame* IwadForm::warningFrame()
 void IwadForm::show()
 {
     m_dialog.activate();
+    ToolTipText();
     write();
     m_ok->setFocus();
     exec();
+}
+
+void IwadForm::ToolTipText()
+{
+    for (const auto& [control, text] : std::as_const(m_tips)) {
+        if (m_launcher.settings.DisableToolTips)
+            m_toolTips.RemoveTool(control);
+        else
+            m_toolTips.AddTool(control, text);
+    }
 }
 
 void IwadForm::acceptChanges()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "iwads/IwadDialog.h"
+#include "ui/ToolTipView.h"
 
 #include <QDialog>
 
@@ -21,11 +22,14 @@ public:
 
 private:
     QFrame* warningFrame();
+    void ToolTipText(); // the tips come and go with the player's preference
     void acceptChanges();
     void write(); // what the dialog shows
 
     Launcher& m_launcher;
     IwadDialog m_dialog;
+    clsToolTip m_toolTips;
+    QList<std::pair<QWidget*, QString>> m_tips;
     QFrame* m_warning;
     QWidget* m_boxes;
     std::array<QLineEdit*, 4> m_showIwads{};

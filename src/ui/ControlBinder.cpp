@@ -1,5 +1,6 @@
 #include "ui/ControlBinder.h"
 
+#include "ui/FrameView.h"
 #include "ui/ListView.h"
 #include "ui/StyleView.h"
 #include "ui/TaskMenuView.h"
@@ -13,32 +14,15 @@
 
 #include <utility>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-void writeShared(const Control& control, QWidget* widget)
-{
-    // A widget of a page that is not shown keeps its own flag, so ask for it, not for what is seen.
-    if (widget->isVisibleTo(widget->parentWidget()) != control.visible)
-        widget->setVisible(control.visible);
-    if (widget->testAttribute(Qt::WA_ForceDisabled) == control.enabled)
-        widget->setEnabled(control.enabled);
-    if (widget->toolTip() != control.toolTip)
-        widget->setToolTip(control.toolTip);
-    ShowAccent(widget, control.colour == Colour::Accent);
-}
+namespace {
 
 void writeCaption(const Control& control, QAbstractButton* button)
 {
-    const QString caption = AsPlainCaption(control.caption);
+    const QString caption = AsPlainCaption(control.caption.trimmed());
     if (button->text() != caption)
         button->setText(caption);
-}
-
-void name(QWidget* widget, const QString& objectName, const QString& accessibleName)
-{
-    widget->setObjectName(objectName);
-    if (widget->accessibleName().isEmpty())
-        widget->setAccessibleName(accessibleName.trimmed().isEmpty() ? objectName : accessibleName.trimmed());
 }
 
 } // namespace
@@ -48,30 +32,93 @@ QString NameOf(const QString& array, int index)
     return array + u'_' + QString::number(index);
 }
 
-void ControlBinder::bind(const QString& objectName, Control& control, QWidget* widget,
-                         std::function<void(const QString&)> setCaption)
+ControlBinder::ControlBinder(QWidget* window) : QObject(window)
 {
-    name(widget, objectName, control.caption);
-    m_writers.emplace_back([&control, widget, setCaption = std::move(setCaption)] {
-        writeShared(control, widget);
-        if (setCaption)
-            setCaption(control.caption);
+    SetUpToolTips(m_toolTips, window);
+}
+
+void ControlBinder::name(QWidget* widget, const QString& objectName)
+{
+    widget->setObjectName(objectName);
+    if (!widget->accessibleName().isEmpty())
+        return;
+    widget->setAccessibleName(objectName);
+    m_namedByCaption.insert(widget);
+}
+
+void ControlBinder::writeName(const Control& control, QWidget* widget)
+{
+    const QString caption = control.caption.trimmed();
+    if (!caption.isEmpty() && m_namedByCaption.contains(widget) && widget->accessibleName() != caption)
+        widget->setAccessibleName(caption);
+}
+
+void ControlBinder::writePart(const Control& control, QWidget* widget)
+{
+    // A widget of a page that is not shown keeps its own flag, so ask for it, not for what is seen.
+    if (widget->isVisibleTo(widget->parentWidget()) != control.visible)
+        widget->setVisible(control.visible);
+    writeName(control, widget);
+    writeToolTip(control, widget);
+    ShowAccent(widget, control.colour == Colour::Accent);
+}
+
+void ControlBinder::writeShared(const Control& control, QWidget* widget)
+{
+    writePart(control, widget);
+    if (widget->testAttribute(Qt::WA_ForceDisabled) == control.enabled)
+        widget->setEnabled(control.enabled);
+}
+
+void ControlBinder::writeToolTip(const Control& control, QWidget* widget)
+{
+    const QString& text = control.toolTip;
+    if (!clsToolTip::fIsWindow(widget)) {
+        if (widget->toolTip() != text)
+            widget->setToolTip(text);
+    } else if (text.isEmpty()) {
+        m_toolTips.RemoveTool(widget);
+    } else if (!m_toolTips.AddTool(widget, text) && m_toolTips.ToolText(widget) != text) {
+        m_toolTips.setToolText(widget, text);
+    }
+}
+
+void ControlBinder::bind(const QString& objectName, Control& control, QWidget* widget,
+                         std::function<void()> writeRest)
+{
+    name(widget, objectName);
+    m_writers.emplace_back([this, &control, widget, writeRest = std::move(writeRest)] {
+        writePart(control, widget);
+        if (writeRest)
+            writeRest();
+    });
+}
+
+void ControlBinder::bind(const QString& objectName, Control& control, FrameView* frame)
+{
+    bind(objectName, control, frame, [&control, frame] {
+        const QString title = AsPlainCaption(control.caption.trimmed());
+        if (frame->title() != title)
+            frame->setTitle(title);
+        frame->setGreyed(!control.enabled);
     });
 }
 
 void ControlBinder::bind(const QString& objectName, Control& control, QLabel* label)
 {
+    name(label, objectName);
     label->setTextFormat(Qt::PlainText);
-    bind(objectName, control, label, [label](const QString& caption) {
-        if (label->text() != caption)
-            label->setText(caption);
+    m_writers.emplace_back([this, &control, label] {
+        writeShared(control, label);
+        if (label->text() != control.caption)
+            label->setText(control.caption);
     });
 }
 
 void ControlBinder::bind(const QString& objectName, Button& control, QAbstractButton* button)
 {
-    name(button, objectName, control.caption);
-    m_writers.emplace_back([&control, button] {
+    name(button, objectName);
+    m_writers.emplace_back([this, &control, button] {
         writeShared(control, button);
         writeCaption(control, button);
     });
@@ -85,8 +132,8 @@ void ControlBinder::bind(const QString& objectName, Button& control, QAbstractBu
 
 void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox* box)
 {
-    name(box, objectName, control.caption);
-    m_writers.emplace_back([&control, box] {
+    name(box, objectName);
+    m_writers.emplace_back([this, &control, box] {
         writeShared(control, box);
         writeCaption(control, box);
         if (box->isChecked() != control.ticked())
@@ -101,8 +148,8 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
 {
     for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
         QAbstractButton* button = buttons.at(i);
-        name(button, NameOf(objectName, i), control[i].caption);
-        m_writers.emplace_back([&control, i, button] {
+        name(button, NameOf(objectName, i));
+        m_writers.emplace_back([this, &control, i, button] {
             writeShared(control[i], button);
             writeCaption(control[i], button);
             if (button->isChecked() != (control.selected() == i))
@@ -115,12 +162,17 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
 
 void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit* edit)
 {
-    name(edit, objectName, control.caption);
+    name(edit, objectName);
     edit->setAcceptDrops(false); // files dropped on it are for the window
-    m_writers.emplace_back([&control, edit] {
+    m_writers.emplace_back([this, &control, edit] {
         writeShared(control, edit);
-        if (edit->text() != control.text)
+        if (edit->text() != control.text) {
             edit->setText(control.text);
+            if (edit->isReadOnly())
+                edit->setCursorPosition(0); // a text that is too long shows its start
+        }
+        if (edit->isReadOnly())
+            edit->setPlaceholderText(QString(control.toolTip).replace(u"\r\n"_s, u" "_s));
     });
     connect(edit, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
         run([&control, text] {
@@ -133,8 +185,8 @@ void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit*
 
 void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* list)
 {
-    name(list, objectName, control.caption);
-    m_writers.emplace_back([&control, list] {
+    name(list, objectName);
+    m_writers.emplace_back([this, &control, list] {
         writeShared(control, list);
         list->showList(control);
     });
@@ -157,8 +209,8 @@ void ControlBinder::bind(const QString& objectName, ListBox& control, ListView* 
 
 void ControlBinder::bind(const QString& objectName, ListBox& control, QComboBox* list)
 {
-    name(list, objectName, control.caption);
-    m_writers.emplace_back([&control, list, shown = QStringList()]() mutable {
+    name(list, objectName);
+    m_writers.emplace_back([this, &control, list, shown = QStringList()]() mutable {
         writeShared(control, list);
         if (shown != control.entries()) {
             shown = control.entries();
@@ -198,6 +250,7 @@ void ControlBinder::runAfter(std::function<void()> event)
 
 void ControlBinder::write()
 {
+    Q_EMIT aboutToWrite();
     for (const auto& writer : m_writers)
         writer();
     Q_EMIT written();

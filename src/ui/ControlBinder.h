@@ -1,12 +1,15 @@
 #pragma once
 
 #include "ui/Control.h"
+#include "ui/ToolTipView.h"
 
 #include <QObject>
+#include <QSet>
 #include <QWidget>
 #include <functional>
 #include <vector>
 
+class FrameView;
 class ListView;
 class QAbstractButton;
 class QCheckBox;
@@ -22,15 +25,18 @@ class ControlBinder : public QObject
     Q_OBJECT
 
 public:
-    explicit ControlBinder(QObject* parent = nullptr) : QObject(parent) {}
+    // `window` is the one with the widgets; their tips belong to it.
+    explicit ControlBinder(QWidget* window = nullptr);
 
-    // A frame, a label, a picture: shown and greyed, and its caption goes to `setCaption` if there is one.
-    void bind(const QString& name, Control& control, QWidget* widget,
-              std::function<void(const QString&)> setCaption = {});
+    // A part of the window or a picture: only shown and hidden, since greying a part greys nothing in it.
+    // `writeRest` writes what else there is.
+    void bind(const QString& name, Control& control, QWidget* widget, std::function<void()> writeRest = {});
+    void bind(const QString& name, Control& control, FrameView* frame);
     void bind(const QString& name, Control& control, QLabel* label);
     void bind(const QString& name, Button& control, QAbstractButton* button);
     void bind(const QString& name, CheckBox& control, QCheckBox* box);
     void bind(const QString& name, OptionButtons& control, const QList<QAbstractButton*>& buttons);
+    // An empty text that cannot be edited shows its tip in its place, which says why it is empty.
     void bind(const QString& name, TextBox& control, QLineEdit* edit);
     void bind(const QString& name, ListBox& control, ListView* list);
     void bind(const QString& name, ListBox& control, QComboBox* list);
@@ -47,9 +53,18 @@ public:
     void write();
 
 Q_SIGNALS:
+    void aboutToWrite(); // what is written may still change
     void written();
 
 private:
+    void name(QWidget* widget, const QString& objectName);
+    void writeName(const Control& control, QWidget* widget);
+    void writePart(const Control& control, QWidget* widget);
+    void writeShared(const Control& control, QWidget* widget);
+    void writeToolTip(const Control& control, QWidget* widget);
+
+    clsToolTip m_toolTips;
+    QSet<const QWidget*> m_namedByCaption; // their accessible name is the caption, as it changes
     std::vector<std::function<void()>> m_writers;
     std::vector<std::function<void()>> m_waiting; // until nothing runs
     int m_running = 0;                            // events within each other

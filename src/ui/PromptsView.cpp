@@ -1,6 +1,8 @@
 #include "ui/PromptsView.h"
 
+#include "options/ConfirmForm.h"
 #include "platform/Paths.h"
+#include "shortcuts/ShortcutForm.h"
 #include "ui/AskForm.h"
 #include "ui/ProgressView.h"
 #include "ui/TaskMenuView.h"
@@ -120,14 +122,14 @@ QString PromptsView::askPassword(const QString& text)
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
-bool PromptsView::askModelCleanup(const CleanupQuestion&)
+bool PromptsView::askModelCleanup(const CleanupQuestion& question)
 {
-    return false;
+    return ShortcutForm(question, over()).exec() == QDialog::Accepted;
 }
 
-bool PromptsView::confirmModelCleanup(const std::function<void(bool)>&)
+bool PromptsView::confirmModelCleanup(const std::function<void(bool)>& neverAgain)
 {
-    return false;
+    return ConfirmForm(neverAgain, over()).exec() == QDialog::Accepted;
 }
 
 std::unique_ptr<Progress> PromptsView::showProgress(const QString& what)

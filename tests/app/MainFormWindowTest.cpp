@@ -13,6 +13,8 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +48,8 @@ private Q_SLOTS:
     void everyWidgetIsNamedOnceAndAccessible();
     void aClickChangesTheControlAndTheWidgetsFollow();
     void advancedOptionsShowThePanelAndTheTabs();
+    void optionPagesComeWhenTheyAreShown();
+    void theKeyboardGoesFromTheTabsThroughThePage();
     void fromAClickedMapToTheEngine();
     void aSavegameIsListedAndLoaded();
     void enterLaunchesUnlessLaunchIsOff();
@@ -203,6 +207,41 @@ void MainFormWindowTest::advancedOptionsShowThePanelAndTheTabs()
     QVERIFY(find<QWidget>(u"PwadList"_s)->isVisible());
     QVERIFY(find<QPushButton>(u"LaunchButton"_s)->isEnabled());
     QCOMPARE(m_window->height(), low);
+}
+
+void MainFormWindowTest::optionPagesComeWhenTheyAreShown()
+{
+    find<QAbstractButton>(u"chkMain_2"_s)->click();
+    const QSize size = m_window->size();
+    QVERIFY(size.height() <= 600 && size.width() <= 1024);
+    const QStringList frames{u"OptFrame_0"_s, u"GraphicFrames_5"_s, u"SoundFrame_0"_s, u"FrameModel_0"_s};
+    for (int tab = 1; tab <= 4; ++tab) {
+        const QString frame = frames.at(tab - 1);
+        QVERIFY(!find<QWidget>(frame));
+        find<QAbstractButton>(NameOf(u"OptionTabs"_s, tab))->click();
+        QVERIFY(find<QWidget>(frame)->isVisible());
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->size(), size);
+        auto* page = find<QScrollArea>(NameOf(u"TabFrame"_s, tab)); // nothing has to be scrolled to
+        QVERIFY(!page->verticalScrollBar()->isVisible() && !page->horizontalScrollBar()->isVisible());
+        QCOMPARE(find<QWidget>(u"AuxButton_8"_s)->isVisible(), tab == 4);
+    }
+    const auto* page = find<QWidget>(u"OptFrame_0"_s);
+    find<QAbstractButton>(u"OptionTabs_1"_s)->click();
+    QCOMPARE(find<QWidget>(u"OptFrame_0"_s), page);
+}
+
+void MainFormWindowTest::theKeyboardGoesFromTheTabsThroughThePage()
+{
+    find<QAbstractButton>(u"chkMain_2"_s)->click();
+    find<QAbstractButton>(u"OptionTabs_3"_s)->click();
+    find<QWidget>(u"OptionTabs_4"_s)->setFocus();
+    for (const QString& name :
+         {u"chkSound_3"_s, u"chkSound_1"_s, u"chkSound_0"_s, u"chkSound_9"_s, u"cbChannels"_s,
+          u"chkSound_2"_s, u"RicoButton_0"_s, u"RicoButton_1"_s, u"chkMain_0"_s}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), name);
+    }
 }
 
 void MainFormWindowTest::fromAClickedMapToTheEngine()

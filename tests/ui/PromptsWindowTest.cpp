@@ -1,7 +1,10 @@
+#include "options/ConfirmForm.h"
 #include "ui/AskForm.h"
 #include "ui/PromptsView.h"
 
+#include <QCheckBox>
 #include <QDeadlineTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -26,6 +29,8 @@ private Q_SLOTS:
     void theFirstKeyReplacesTheMissingName();
     void escapeCancels();
     void cancellingStopsTheWork();
+    void modelsAreRemovedOnlyWhenTicked();
+    void theLastQuestionDefaultsToCancel();
 };
 
 void PromptsWindowTest::anUnchangedNameCancels()
@@ -99,6 +104,71 @@ void PromptsWindowTest::cancellingStopsTheWork()
     dialog->findChild<QPushButton*>()->click();
     QVERIFY(!progress->advance(large, large));
     QVERIFY(!progress->advance(large, large));
+}
+
+void PromptsWindowTest::modelsAreRemovedOnlyWhenTicked()
+{
+    const CleanupQuestion question{.summary = u"Model pack 1 <b>: 3 folders"_s, .toolTips = true};
+    QWidget window;
+    window.show();
+    PromptsView prompts(&window);
+    const auto answer = [&](const std::function<void(QDialog*, QCheckBox*, QPushButton*)>& act) {
+        QTimer::singleShot(0, qApp, [act] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            act(dialog, dialog->findChild<QCheckBox*>(u"chkModDel"_s),
+                dialog->findChild<QPushButton*>(u"OKButton"_s));
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+        return prompts.askModelCleanup(question);
+    };
+    QVERIFY(!answer([](QDialog* dialog, QCheckBox* box, QPushButton* button) {
+        QCOMPARE(dialog->windowTitle(), u"Model Pack Cleanup"_s);
+        QCOMPARE(dialog->findChild<QLabel*>(u"Summary"_s)->text(), u"Model pack 1 <b>: 3 folders"_s);
+        QCOMPARE(box->accessibleDescription(), u"Remove all traces of the models pack."_s);
+        QCOMPARE(button->text(), u"Cancel"_s);
+        button->click();
+    }));
+    QVERIFY(!answer([](QDialog*, QCheckBox* box, QPushButton* button) {
+        box->click();
+        QCOMPARE(button->text(), u"Cleanup"_s);
+        box->click();
+        QCOMPARE(button->text(), u"Cancel"_s);
+        button->click();
+    }));
+    QVERIFY(!answer([](QDialog* dialog, QCheckBox* box, QPushButton*) {
+        box->click();
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    }));
+    QVERIFY(answer([](QDialog*, QCheckBox* box, QPushButton* button) {
+        box->click();
+        button->click();
+    }));
+}
+
+void PromptsWindowTest::theLastQuestionDefaultsToCancel()
+{
+    QList<bool> told;
+    const auto ask = [&](Qt::Key key, bool pressContinue) {
+        ConfirmForm form([&](bool never) { told << never; });
+        form.show();
+        form.findChild<QCheckBox*>(u"ChkConfirm"_s)->click();
+        if (pressContinue)
+            form.findChild<QPushButton*>(u"OKButton"_s)->click();
+        else
+            QTest::keyClick(&form, key);
+        return !form.isVisible() && form.result() == QDialog::Accepted;
+    };
+    QVERIFY(!ask(Qt::Key_Return, false));
+    QVERIFY(!ask(Qt::Key_Escape, false));
+    QVERIFY(ask(Qt::Key_unknown, true));
+    QCOMPARE(told, (QList<bool>{true, true, true}));
+
+    ConfirmForm form([&](bool never) { told << never; });
+    auto* box = form.findChild<QCheckBox*>(u"ChkConfirm"_s);
+    box->click();
+    box->click();
+    QCOMPARE(told.last(), false);
 }
 
 QTEST_MAIN(PromptsWindowTest)

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "app/Controls.h"
+#include "ui/ControlBinder.h"
+
+#include <QWidget>
+
+// The graphics tab: the high-resolution packs, lights, corpses, and the resolution last used.
+class GraphicsPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GraphicsPage(Controls& controls, ControlBinder& binder, QWidget* parent = nullptr);
+};
