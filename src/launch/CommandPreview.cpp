@@ -65,6 +65,8 @@ void UpdateCommandPreview(Launcher& launcher)
         return;
     const LaunchPlan plan = planned(launcher);
     controls.CommandPreview.text = plan.commandLine;
-    controls.CommandPreview.toolTip = plan.refusal ? plan.refusal->text.simplified() : QString();
+    const bool hasChoice = !launcher.selection.SelectedGameFile.isEmpty();
+    controls.CommandPreview.toolTip =
+        plan.refusal && hasChoice ? plan.refusal->text.simplified() : QString();
     controls.CopyPreview.enabled = !plan.commandLine.isEmpty();
 }

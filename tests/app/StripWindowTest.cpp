@@ -68,6 +68,7 @@ void StripWindowTest::anEmptyCommandLineSaysWhy()
 void StripWindowTest::theLightLevelTakesDigits()
 {
     m_controls->FrameGlobal[2].visible = m_controls->LightText.visible = true;
+    m_controls->LightText.enabled = true;
     m_binder->write();
     auto* light = m_strip->findChild<QLineEdit*>(u"LightText"_s);
     light->clear();
