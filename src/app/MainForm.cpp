@@ -35,7 +35,7 @@ namespace {
 // In layout units. The window fits a screen of 1024 x 600 beside its panels; without the command panel it
 // is lower by as much as the panel takes.
 constexpr QSize advancedSize(940, 600);
-constexpr int panelHeight = 72;
+constexpr int panelHeight = 100;
 
 // The paths of the files that are dragged; none when none of them can be a game.
 QStringList draggedGames(const QMimeData& dragged)
@@ -165,6 +165,7 @@ void MainForm::endProgram()
 
 void MainForm::beforeWrite()
 {
+    m_heightBefore = height();
     if (!layout())
         return;
     UpdateCommandPreview(*m_launcher);
@@ -210,7 +211,13 @@ void MainForm::fitMode()
     if (m_compact == m_launcher->controls.MainForm.compact)
         return;
     m_compact = !m_compact;
-    resize(width(), height() + (m_compact ? -panelHeight : panelHeight));
+    // What has appeared may have made the window higher by itself, and what has gone need no longer fit.
+    if (layout()) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        layout()->invalidate();
+        layout()->activate();
+    }
+    resize(width(), m_heightBefore + (m_compact ? -panelHeight : panelHeight));
 }
 
 bool MainForm::eventFilter(QObject* watched, QEvent* event)

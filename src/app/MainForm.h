@@ -59,4 +59,5 @@ private:
     QList<QScrollArea*> m_optionPages; // those of the tabs after the first; each is filled when it is shown
     IwadForm* m_iwadForm = nullptr;    // from its first use on
     bool m_compact = false;            // as the window is sized
+    int m_heightBefore = 0;            // before the controls were written to the widgets
 };

@@ -50,18 +50,16 @@ QWidget* scalingFrame(Controls& controls, PageBinder& make)
 QWidget* adviceBanner(Controls& controls, PageBinder& make)
 {
     auto& labels = controls.ModLabel;
-    return make.frame(u"ModFrame"_s, controls.ModFrame,
-                      {
-                          PageBinder::row({
-                              make.label(u"ModLabel"_s, labels, 0),
-                              make.label(u"ModLabel"_s, labels, 1),
-                              make.label(u"ModLabel"_s, labels, 3),
-                          }),
-                          PageBinder::row({
-                              make.label(u"ModLabel"_s, labels, 2),
-                              make.button(u"ButPurge_2"_s, controls.ButPurge[2], u"Clean up models"_s),
-                          }),
-                      });
+    QBoxLayout* website = PageBinder::row({
+        make.label(u"ModLabel"_s, labels, 0),
+        make.label(u"ModLabel"_s, labels, 1),
+    });
+    website->addWidget(make.label(u"ModLabel"_s, labels, 3));
+    QBoxLayout* cleanup = PageBinder::row({
+        make.label(u"ModLabel"_s, labels, 2),
+        make.button(u"ButPurge_2"_s, controls.ButPurge[2], u"Clean up models"_s),
+    });
+    return make.frame(u"ModFrame"_s, controls.ModFrame, {website, cleanup});
 }
 
 } // namespace

@@ -49,7 +49,7 @@ QWidget* ShortcutForm::modelDelFrame(const CleanupQuestion& question)
     rows->addWidget(text(u"Label2"_s,
                          u"Cleanup all previously installed models prior to installing a new major"
                          " version or re-installing a corrupted pack."_s));
-    rows->addWidget(text(u"Summary"_s, question.summary));
+    rows->addWidget(text(u"Summary"_s, QString(question.summary).replace(u"\r\n"_s, u"\n"_s)));
     rows->addWidget(m_delete);
     return frame;
 }
