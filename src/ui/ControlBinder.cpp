@@ -20,7 +20,7 @@ namespace {
 
 void writeCaption(const Control& control, QAbstractButton* button)
 {
-    const QString caption = AsPlainCaption(control.caption.trimmed());
+    const QString caption = AsPlainCaption(control.caption);
     if (button->text() != caption)
         button->setText(caption);
 }

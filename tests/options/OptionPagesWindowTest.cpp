@@ -87,7 +87,7 @@ void OptionPagesWindowTest::everyCheckBoxIsItsControl()
     for (const auto& [name, control] : std::as_const(m_boxes)) {
         auto* box = find<QCheckBox>(name);
         QVERIFY2(box, qPrintable(name));
-        QCOMPARE(box->text(), control->caption.trimmed());
+        QCOMPARE(box->text(), control->caption);
         QCOMPARE(box->isVisible(), control->visible);
         QCOMPARE(box->isEnabled(), control->enabled);
         const bool before = control->ticked();
