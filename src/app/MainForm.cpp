@@ -80,12 +80,8 @@ void MainForm::build()
     m_binder.bind(u"TabFrame_0"_s, controls.TabFrame[0], games);
     below->addWidget(games, 1);
     for (int tab = 1; tab < controls.OptionTabs.count(); ++tab) {
-        auto* page = new QScrollArea; // large fonts may need more room than there is
-        page->setFrameShape(QFrame::NoFrame);
-        page->setFocusPolicy(Qt::NoFocus);
-        page->setWidgetResizable(true);
-        m_binder.bind(NameOf(u"TabFrame"_s, tab), controls.TabFrame[static_cast<size_t>(tab)],
-                      static_cast<QWidget*>(page));
+        auto* page = new QWidget;
+        m_binder.bind(NameOf(u"TabFrame"_s, tab), controls.TabFrame[static_cast<size_t>(tab)], page);
         below->addWidget(page, 1);
         m_optionPages << page;
     }
@@ -171,7 +167,7 @@ void MainForm::beforeWrite()
     UpdateCommandPreview(*m_launcher);
     const Controls& controls = m_launcher->controls;
     for (int page = 0; page < m_optionPages.size(); ++page)
-        if (controls.TabFrame[static_cast<size_t>(page + 1)].visible && !m_optionPages.at(page)->widget())
+        if (controls.TabFrame[static_cast<size_t>(page + 1)].visible && !m_optionPages.at(page)->layout())
             buildOptionPage(page);
 }
 
@@ -184,14 +180,21 @@ void MainForm::buildOptionPage(int page)
         [&] { return new SoundPage(controls, m_binder); },
         [&] { return new ModelsPage(controls, m_binder); },
     };
-    QScrollArea* place = m_optionPages.at(page);
-    place->setWidget(pages[page]());
+    auto* scroll = new QScrollArea; // large fonts may need more room than there is
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(pages[page]());
+    QWidget* place = m_optionPages.at(page);
+    auto* filled = new QVBoxLayout(place);
+    filled->setContentsMargins(0, 0, 0, 0);
+    filled->addWidget(scroll);
 
     // The keyboard comes by where the page lies in the window, not last.
     QWidget* before = place;
     while (!(before->focusPolicy() & Qt::TabFocus))
         before = before->previousInFocusChain();
-    for (QWidget* widget : place->widget()->findChildren<QWidget*>())
+    for (QWidget* widget : scroll->widget()->findChildren<QWidget*>())
         if ((widget->focusPolicy() & Qt::TabFocus) && widget->window() == this) {
             setTabOrder(before, widget);
             before = widget;

@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class IwadForm;
-class QScrollArea;
 class TitleView;
 
 // The main window: composes the pages, forwards the window's events, and is what the launcher asks of it.
@@ -56,7 +55,7 @@ private:
     Launcher* m_launcher = nullptr; // set by attach
     ControlBinder m_binder;
     TitleView* m_title = nullptr;
-    QList<QScrollArea*> m_optionPages; // those of the tabs after the first; each is filled when it is shown
+    QList<QWidget*> m_optionPages; // those of the tabs after the first; each is filled when it is shown
     IwadForm* m_iwadForm = nullptr;    // from its first use on
     bool m_compact = false;            // as the window is sized
     int m_heightBefore = 0;            // before the controls were written to the widgets

@@ -110,6 +110,8 @@ void LoadMainWindow(Launcher& launcher)
     emptyZipFolder(launcher);
     placeWindow(launcher);
     ApplySettingsToControls(settings, controls);
+    if (!settings.AdvancedOptions)
+        DefaultMode(launcher); // again: the edit mode, say, shows a button
     if (settings.DevelopmentMode)
         controls.chkTesting.visible = controls.ExitOption[0].visible = true;
     if (settings.LaunchMode == 0)

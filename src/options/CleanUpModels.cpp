@@ -61,6 +61,7 @@ void CleanUpModels(Launcher& launcher)
     const ModelCleanup everything{
         .RemoveModelPack1 = true, .RemoveTovrensPack = true, .RemoveKelspack = true};
     const QString summary =
+        u"To be removed: "_s +
         ModelPackContents(launcher.files, FindModelPackItems(launcher.files, launcher.paths, everything));
     const CleanupQuestion question{.summary = summary, .toolTips = !launcher.settings.DisableToolTips};
     if (!launcher.prompts.askModelCleanup(question) || !isConfirmed(launcher))

@@ -21,7 +21,7 @@ ConfirmForm::ConfirmForm(const std::function<void(bool)>& neverAgain, QWidget* p
     } labels[] = {
         {u"CautionLab_1"_s,
          u"CAUTION: continuing will permanently remove all traces of the selected packs"_s},
-        {u"CautionLab_2"_s, u"including any custom changes or tweaks you may have made to these packs."_s},
+        {u"CautionLab_2"_s, u" including any custom changes or tweaks you may have made to these packs."_s},
     };
     for (const auto& row : labels) {
         auto* label = new QLabel(row.text);

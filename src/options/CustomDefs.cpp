@@ -44,6 +44,6 @@ void ChooseCustomDefs(Launcher& launcher, ListBox& list)
     }
     if (!isDefinition(launcher.files, path))
         return;
-    list.add(SameName(FolderOf(path), folder) ? BaseNameOf(path) : path);
+    list.add(SameName(FolderOf(path), folder) ? BaseNameOf(path) : NativePath(path));
     list.select(list.count() - 1);
 }

@@ -18,7 +18,7 @@ void setShownInBoth(Controls& controls, bool advanced)
 {
     controls.SkillFrame.visible = controls.StartFrame.visible = !advanced;
     controls.SkillsLevel[0].visible = advanced;
-    for (int tab = 0; tab < controls.OptionTabs.count(); ++tab)
+    for (int tab = 1; tab < controls.OptionTabs.count(); ++tab)
         controls.OptionTabs[tab].visible = advanced;
     controls.ChkModelOpts[2].visible = controls.ChkModelOpts[3].visible = advanced;
     controls.FrameGlobal[0].visible = advanced;

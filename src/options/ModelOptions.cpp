@@ -1,6 +1,7 @@
 #include "options/ModelOptions.h"
 
 #include "options/EffectModes.h"
+#include "options/ModelPacks.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +36,7 @@ void replacementsClicked(Launcher& launcher)
     launcher.settings.TovrensReplacements = on;
     if (!on)
         controls.chkAltModels[Zombies].enabled = false;
-    else if (!launcher.settings.BasicDoom && !FxInForce(launcher) &&
-             launcher.files.folderExists(launcher.paths.Md2Path + u"Monsters/Imp"_s))
+    else if (!launcher.settings.BasicDoom && !FxInForce(launcher) && ZombiesInstalled(launcher))
         controls.chkAltModels[Zombies].enabled = true;
 }
 

@@ -66,7 +66,7 @@ void allowZombies(Launcher& launcher)
         return;
     }
     controls.FrameModel[0].enabled = true;
-    if (!launcher.files.fileExists(launcher.paths.Md2Path + u"Tovrens/Gore/Gore3.dmd"_s))
+    if (!ZombiesInstalled(launcher))
         zombies.enabled = false;
     else if (!launcher.settings.NoMonsters)
         zombies.enabled = true;
@@ -100,9 +100,10 @@ void DetectModelPacks(Launcher& launcher)
     }
 }
 
-void DetectKelspack(Launcher& launcher)
+bool ZombiesInstalled(const Launcher& launcher)
 {
-    launcher.modelPacks.KelspackInstalled = FindModelPacks(launcher.files, launcher.paths).KelspackInstalled;
+    return !launcher.modelPacks.ModelPacksMissing &&
+           launcher.files.fileExists(launcher.paths.Md2Path + u"Tovrens/Gore/Gore3.dmd"_s);
 }
 
 void ShowModelAdvice(Launcher& launcher)

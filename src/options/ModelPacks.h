@@ -8,8 +8,8 @@
 // from the start of the launcher and from a cleanup, and not looked for here.
 void DetectModelPacks(Launcher& launcher);
 
-// Whether the optional weapons are installed.
-void DetectKelspack(Launcher& launcher);
+// Whether the pistol-packing zombies can be had: their pack and the base pack are there.
+bool ZombiesInstalled(const Launcher& launcher);
 
 // Shows where the model packs come from, on the models page.
 void ShowModelAdvice(Launcher& launcher);

@@ -69,10 +69,10 @@ void CheckGraphicsPacks(Launcher& launcher)
     const ResourcePacks& packs = launcher.resources;
     if (controls.chkMain[0].ticked() || launcher.selection.ScriptedMap)
         return;
-    if (packs.patches) {
-        controls.chkGraphics[highResPatches].enabled = true;
-        launcher.settings.HighResPatches = controls.chkGraphics[highResPatches].ticked();
-    }
+    CheckBox& patches = controls.chkGraphics[highResPatches];
+    patches.enabled = packs.patches;
+    if (packs.patches)
+        launcher.settings.HighResPatches = patches.ticked();
     CheckBox& textures = controls.chkMain[highResTextures];
     textures.enabled = packs.textures;
     if (!packs.textures) {
@@ -81,20 +81,18 @@ void CheckGraphicsPacks(Launcher& launcher)
         controls.HiResText.text = NativePath(launcher.settings.TexturePath);
         launcher.settings.HighResTextures = true;
     }
-    if (packs.detailTextures && !HighResTexturesUsed(launcher))
-        controls.chkGraphics[detailTextures].enabled = true;
-    if (packs.skyboxes) {
-        CheckBox& box = controls.chkGraphics[skyboxes];
-        box.enabled = true;
-        if (box.ticked())
-            controls.SkyOpt[0].enabled = controls.SkyOpt[1].enabled = true;
-    }
+    controls.chkGraphics[detailTextures].enabled = packs.detailTextures && !HighResTexturesUsed(launcher);
+    CheckBox& skies = controls.chkGraphics[skyboxes];
+    skies.enabled = packs.skyboxes;
+    controls.SkyOpt[0].enabled = controls.SkyOpt[1].enabled = packs.skyboxes && skies.ticked();
 }
 
 void CheckSoundPack(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked() && SoundPackInstalled(launcher))
+    if (!SoundPackInstalled(launcher))
+        controls.chkSound[soundPack].enabled = false;
+    else if (!controls.chkMain[0].ticked() && !controls.chkSound[0].ticked())
         controls.chkSound[soundPack].enabled = true;
 }
 

@@ -62,15 +62,16 @@ constexpr Spinner spinners[] = {
 void press(Launcher& launcher, const Spinner& spinner, int step)
 {
     TextBox& box = spinner.box(launcher.controls);
-    const int from = std::max(box.number(), spinner.lowest);
-    const int value = std::clamp(from + step, spinner.lowest, spinner.highest);
-    if (value == box.number())
+    const int from = box.number();
+    const int value = from < spinner.lowest ? spinner.lowest
+                                            : std::clamp(from + step, spinner.lowest, spinner.highest);
+    if (value == from)
         return;
     box.text = QString::number(value);
     launcher.settings.*spinner.setting = value;
-    if (step < 0 && value == 0 && spinner.reachedZero)
+    if (value == 0 && spinner.reachedZero)
         spinner.reachedZero(launcher.controls);
-    else if (step > 0 && value > 0 && spinner.leftZero)
+    else if (step > 0 && spinner.leftZero)
         spinner.leftZero(launcher.controls);
 }
 

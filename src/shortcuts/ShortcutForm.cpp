@@ -42,7 +42,7 @@ QWidget* ShortcutForm::modelDelFrame(const CleanupQuestion& question)
         label->setMinimumWidth(textWidth);
         return label;
     };
-    auto* frame = new QGroupBox(u"Remove Keldrax  Models"_s);
+    auto* frame = new QGroupBox(u" Remove Keldrax  Models"_s);
     frame->setObjectName(u"ModelDelFrame"_s);
     auto* rows = new QVBoxLayout(frame);
     rows->setSpacing(10);

@@ -223,7 +223,8 @@ void MainFormWindowTest::optionPagesComeWhenTheyAreShown()
         QVERIFY(find<QWidget>(frame)->isVisible());
         QCoreApplication::processEvents();
         QCOMPARE(m_window->size(), size);
-        auto* page = find<QScrollArea>(NameOf(u"TabFrame"_s, tab)); // nothing has to be scrolled to
+        auto* page = find<QWidget>(NameOf(u"TabFrame"_s, tab))
+                         ->findChild<QScrollArea*>(); // nothing has to be scrolled to
         QVERIFY(!page->verticalScrollBar()->isVisible() && !page->horizontalScrollBar()->isVisible());
         QCOMPARE(find<QWidget>(u"AuxButton_8"_s)->isVisible(), tab == 4);
     }

@@ -90,7 +90,7 @@ private Q_SLOTS:
             packs.launcher.controls.ButPurge[2].clicked();
             // hudweapons with its folder, Items, Lod and 3, Monsters and 3, Tovrens and Gore, Kelspack, and
             // two folders of definitions; 10 files in them, 2 skins and 6 definitions of 5 bytes each
-            QCOMPARE(packs.prompts.cleanupSummaries, QStringList{u"16 folders and 18 files, 90 bytes"_s});
+            QCOMPARE(packs.prompts.cleanupSummaries, QStringList{u"To be removed: 16 folders and 18 files, 90 bytes"_s});
             QCOMPARE(packs.left(), QStringList());
             QVERIFY(packs.keepsOwn());
             QCOMPARE(packs.prompts.titles, QStringList{u" Cleanup Completed"_s});
@@ -135,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(packs.left(), QStringList{confirm});
         packs.prompts.expectModelCleanup(false);
         button.clicked();
-        QCOMPARE(packs.prompts.cleanupSummaries.last(), u"0 folders and 0 files, 0 bytes"_s);
+        QCOMPARE(packs.prompts.cleanupSummaries.last(), u"To be removed: 0 folders and 0 files, 0 bytes"_s);
     }
 
     // What one pack takes with it, and what stays for the others or because something cannot be removed.

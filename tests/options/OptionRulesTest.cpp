@@ -354,7 +354,7 @@ private Q_SLOTS:
              all,
              {corpseSeconds(u"-300"_s)},
              more,
-             u"Corpse[1] TexLabel_1\"Seconds before corpses fade\""_s},
+             u"-chkVYKOpts_3=0 Corpse(red)[0] TexLabel_1\"No corpse fade\""_s},
         });
     }
 
@@ -484,7 +484,7 @@ private Q_SLOTS:
             {"3D sound", all, {sound(3)}, sound(3), u"chkSound_3=1"_s},
             {"fewer", all, {}, more, u"Ricotext[5]"_s},
             {"never none", all, {interval}, less, u"Ricotext[1]"_s},
-            {"from none", all, {interval}, more, u"Ricotext[2]"_s},
+            {"from none", all, {interval}, more, u"Ricotext[1]"_s},
         });
     }
 
@@ -523,12 +523,12 @@ private Q_SLOTS:
              Packs::None,
              {},
              chkMain(2),
-             u"AuxButton_4(hidden) AuxButton_5(hidden) AuxButton_6(hidden) OptionUdir_2(hidden) Auto_0 -OptionTabs_0(hidden) OptionTabs_1(hidden) OptionTabs_2(hidden) OptionTabs_3(hidden) OptionTabs_4(hidden) chkMain_2=0 chkMain_6(hidden) ChkModelOpts_2(hidden) ChkModelOpts_3(hidden) SkillsLevel_0(hidden) SkillFrame(shown) StartFrame(shown) FrameGlobal_0(hidden)"_s},
+             u"AuxButton_4(hidden) AuxButton_5(hidden) AuxButton_6(hidden) OptionUdir_2(hidden) Auto_0 -OptionTabs_0 OptionTabs_1(hidden) OptionTabs_2(hidden) OptionTabs_3(hidden) OptionTabs_4(hidden) chkMain_2=0 chkMain_6(hidden) ChkModelOpts_2(hidden) ChkModelOpts_3(hidden) SkillsLevel_0(hidden) SkillFrame(shown) StartFrame(shown) FrameGlobal_0(hidden)"_s},
             {"advanced mode",
              Packs::None,
              {chkMain(2)},
              chkMain(2),
-             u"AuxButton_4(shown) AuxButton_5(shown) AuxButton_6(shown) OptionUdir_2(shown) Auto_0 +OptionTabs_0(shown) OptionTabs_1(shown) OptionTabs_2(shown) OptionTabs_3(shown) OptionTabs_4(shown) chkMain_2=1 chkMain_6(shown) ChkModelOpts_2(shown) ChkModelOpts_3(shown) SkillsLevel_0(shown) SkillFrame(hidden) StartFrame(hidden) FrameGlobal_0(shown)"_s},
+             u"AuxButton_4(shown) AuxButton_5(shown) AuxButton_6(shown) OptionUdir_2(shown) Auto_0 +OptionTabs_0 OptionTabs_1(shown) OptionTabs_2(shown) OptionTabs_3(shown) OptionTabs_4(shown) chkMain_2=1 chkMain_6(shown) ChkModelOpts_2(shown) ChkModelOpts_3(shown) SkillsLevel_0(shown) SkillFrame(hidden) StartFrame(hidden) FrameGlobal_0(shown)"_s},
             {"the other panel",
              Packs::None,
              {},

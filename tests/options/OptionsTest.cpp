@@ -146,7 +146,7 @@ private Q_SLOTS:
         QCOMPARE(enabled(), u"1100"_s);
         controls.chkSound[0].startAs(0);
         launcher.settings.TexturePath = game.path(u"mine/Textures"_s);
-        QCOMPARE(enabled(), u"1111"_s); // patches beside the textures
+        QCOMPARE(enabled(), u"0111"_s); // patches beside the textures, which go before details
 
         // A texture folder that went away gives way to the installation's own.
         controls.HiResText.text = u"/gone"_s;
@@ -159,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(controls.chkMain[1].enabled);
         controls.chkGraphics[2].enabled = false;
         controls.chkMain[1].startAs(1);
-        QCOMPARE(enabled(), u"0111"_s); // details stay off beside textures
+        QCOMPARE(enabled(), u"0101"_s); // the other folder's patches are out of use; details stay off
     }
 
     void modelPacks()

@@ -101,6 +101,8 @@ public:
         if (!settings.AdvancedOptions)
             DefaultMode(*loaded);
         ApplySettingsToControls(loaded->settings, loaded->controls);
+        if (!settings.AdvancedOptions)
+            DefaultMode(*loaded);
         SelectStartupOptions(*loaded);
         CheckOptions(*loaded);
         loaded->controls.MapList.add(QStringLiteral("MAP01"));
