@@ -32,9 +32,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// In layout units. The window fits a screen of 1024 x 600 beside its panels; without the command panel it
+// In layout units. The window with its title bar fits a screen of 1024 x 600; without the command panel it
 // is lower by as much as the panel takes.
-constexpr QSize advancedSize(940, 600);
+constexpr QSize advancedSize(940, 580);
 constexpr int panelHeight = 100;
 
 // The paths of the files that are dragged; none when none of them can be a game.

@@ -20,7 +20,7 @@ public:
 
     QSize sizeHint() const override { return {940, height}; }
 
-    static constexpr int height = 100; // layout units
+    static constexpr int height = 84; // layout units
 
 Q_SIGNALS:
     void clicked();
