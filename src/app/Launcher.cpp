@@ -29,6 +29,7 @@
 #include "options/Skills.h"
 #include "options/SoundOptions.h"
 #include "options/Spinners.h"
+#include "options/TexturePath.h"
 #include "savegames/DeleteSaveGames.h"
 #include "savegames/SaveGames.h"
 #include "wad/MapList.h"
@@ -66,6 +67,7 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectDeveloperSwitches(*this);
     ConnectEffectModes(*this);
     ConnectGraphicsOptions(*this);
+    ConnectTexturePath(*this);
     ConnectModelOptions(*this);
     ConnectSoundOptions(*this);
     ConnectSpinners(*this);

@@ -10,6 +10,7 @@
 #include "options/ModelsPage.h"
 #include "options/OptionsPage.h"
 #include "options/SoundPage.h"
+#include "options/TexForm.h"
 #include "platform/Paths.h"
 #include "ui/FilterView.h"
 #include "ui/TitleView.h"
@@ -146,6 +147,12 @@ void MainForm::showIwadForm()
     if (!m_iwadForm)
         m_iwadForm = new IwadForm(*m_launcher, this);
     m_iwadForm->show();
+    refresh();
+}
+
+void MainForm::showTexForm()
+{
+    TexForm(*m_launcher, this).exec();
     refresh();
 }
 

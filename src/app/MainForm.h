@@ -34,6 +34,7 @@ public:
     bool isReachableAt(QPoint topLeft) const override;
     void refresh() override;
     void showIwadForm() override;
+    void showTexForm() override;
     void copyText(const QString& text) override;
     int logicalDpi() const override { return logicalDpiX(); }
     void endProgram() override;

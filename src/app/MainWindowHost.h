@@ -35,6 +35,7 @@ public:
     virtual void refresh() = 0;
 
     virtual void showIwadForm() = 0; // modal
+    virtual void showTexForm() = 0;  // modal
 
     virtual void copyText(const QString& text) = 0; // to the clipboard
 

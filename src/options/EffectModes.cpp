@@ -16,12 +16,6 @@ bool hasModels(const Launcher& launcher)
     return launcher.files.folderExists(launcher.paths.Md2Path);
 }
 
-void allowLighting(Controls& controls, bool on)
-{
-    controls.GraphicFrames[4].enabled = on;
-    controls.chkEffects[0].enabled = controls.chkEffects[2].enabled = on;
-}
-
 void allowScaling(Controls& controls, bool on)
 {
     controls.GraphicFrames[1].enabled = on;
@@ -72,7 +66,7 @@ void basicDoomOn(Launcher& launcher)
     AllowRicochetSpinner(controls, false);
     allowScaling(controls, false);
     if (!FxInForce(launcher))
-        allowLighting(controls, false);
+        AllowLighting(controls, false);
 }
 
 void basicDoomOff(Launcher& launcher)
@@ -80,7 +74,7 @@ void basicDoomOff(Launcher& launcher)
     Controls& controls = launcher.controls;
     const Settings& settings = launcher.settings;
     const bool packs = !launcher.modelPacks.ModelPacksMissing;
-    allowLighting(controls, true);
+    AllowLighting(controls, true);
     if (packs && !settings.CoreEffects) {
         allowSmoke(controls, true);
         allowScaling(controls, true);
@@ -124,7 +118,7 @@ void fxClicked(Launcher& launcher)
         controls.ChkModelOpts[coreBox].setTicked(false);
     }
     if (launcher.settings.BasicDoom)
-        allowLighting(controls, FxInForce(launcher));
+        AllowLighting(controls, FxInForce(launcher));
     BasicDoomGrey(launcher);
 }
 
@@ -174,6 +168,12 @@ void ConnectEffectModes(Launcher& launcher)
 bool FxInForce(const Launcher& launcher)
 {
     return launcher.settings.Fx || !launcher.modelPacks.CoreEffectsInstalled;
+}
+
+void AllowLighting(Controls& controls, bool on)
+{
+    controls.GraphicFrames[4].enabled = on;
+    controls.chkEffects[0].enabled = controls.chkEffects[2].enabled = on;
 }
 
 void DisableModels(Launcher& launcher)

@@ -11,6 +11,9 @@ void ConnectEffectModes(Launcher& launcher);
 // FX is ticked, or the core effects without which there is nothing else are not installed.
 bool FxInForce(const Launcher& launcher);
 
+// The frame and boxes of lighting and splashes.
+void AllowLighting(Controls& controls, bool on);
+
 // What Core Effects, or its absence, means for the model options. Nothing without a folder of models.
 void DisableModels(Launcher& launcher);
 

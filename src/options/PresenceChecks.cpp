@@ -12,8 +12,6 @@ constexpr size_t skyboxes = 3;
 constexpr size_t highResPatches = 4;
 constexpr size_t soundPack = 6; // chkSound
 
-const QString notInstalled = u"Not installed or the specified path is invalid"_s;
-
 // The player's patches lie beside the textures, in the same parent folder or in the folder itself.
 bool patchesBesideTextures(const Launcher& launcher)
 {
@@ -76,7 +74,7 @@ void CheckGraphicsPacks(Launcher& launcher)
     CheckBox& textures = controls.chkMain[highResTextures];
     textures.enabled = packs.textures;
     if (!packs.textures) {
-        controls.HiResText.text = notInstalled;
+        controls.HiResText.text = NoTextures;
     } else if (textures.ticked()) {
         controls.HiResText.text = NativePath(launcher.settings.TexturePath);
         launcher.settings.HighResTextures = true;

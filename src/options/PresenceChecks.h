@@ -4,6 +4,9 @@
 
 // Which resource packs are installed; they enable the options that need them.
 
+// What stands in place of the folder of textures when there is none.
+inline const QString NoTextures = QStringLiteral("Not installed or the specified path is invalid");
+
 // True when the folder of high-resolution textures is there. A TexturePath that is not is replaced by the
 // texture dialog's text or by the installation's own folder.
 bool TexturePathValid(Launcher& launcher);

@@ -4,16 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void allowEffects(Controls& controls, bool on)
-{
-    controls.GraphicFrames[4].enabled = on;
-    controls.chkEffects[0].enabled = controls.chkEffects[2].enabled = on;
-}
-
-} // namespace
-
 void KillSpriteOptions(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
@@ -26,7 +16,7 @@ void KillSpriteOptions(Launcher& launcher)
     basicDoom.enabled = false;
     for (CheckBox& box : controls.ChkModelOpts)
         box.enabled = false;
-    allowEffects(controls, false);
+    AllowLighting(controls, false);
     basicDoom.setTicked(basicDoomTicked);
     fx.setTicked(fxTicked);
 }
@@ -53,5 +43,5 @@ void RestoreSpriteOptions(Launcher& launcher)
     }
     if (modes[2].ticked())
         CoreEffects(launcher);
-    allowEffects(controls, true);
+    AllowLighting(controls, true);
 }

@@ -70,6 +70,10 @@ public:
     // The path of the existing file that the player chose, with '/'; empty when cancelled.
     virtual QString chooseFile(const FileQuestion& question) = 0;
 
+    // The path of the folder that the player chose, with '/'; empty when cancelled. `text` says what for,
+    // `folder` is where to start.
+    virtual QString chooseFolder(const QString& text, const QString& folder) = 0;
+
     // The name that the player typed; nothing when cancelled.
     virtual std::optional<QString> askName(const NameQuestion& question) = 0;
 

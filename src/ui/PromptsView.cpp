@@ -105,6 +105,12 @@ QString PromptsView::chooseFile(const FileQuestion& question)
     return WithSlashes(QFileDialog::getOpenFileName(over(), question.title, question.folder, filter));
 }
 
+QString PromptsView::chooseFolder(const QString& text, const QString& folder)
+{
+    const QString title = QString(text).replace(u"\r\n"_s, u" - "_s); // a title has one line
+    return WithSlashes(QFileDialog::getExistingDirectory(over(), title, folder));
+}
+
 std::optional<QString> PromptsView::askName(const NameQuestion& question)
 {
     AskForm form(question, over());

@@ -13,6 +13,7 @@ public:
 
     int MsgboxPos(const QString& text, int style, const QString& title) override;
     QString chooseFile(const FileQuestion& question) override;
+    QString chooseFolder(const QString& text, const QString& folder) override;
     std::optional<QString> askName(const NameQuestion& question) override;
     QString askPassword(const QString& text) override;
     bool askModelCleanup(const CleanupQuestion& question) override;

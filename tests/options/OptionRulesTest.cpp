@@ -7,6 +7,8 @@
 #include "options/PresenceChecks.h"
 #include "options/SoundOptions.h"
 #include "options/SpriteOptions.h"
+#include "options/TexturePath.h"
+#include "platform/Paths.h"
 #include "tests/support/CommercialGame.h"
 #include "tests/support/OptionLauncher.h"
 
@@ -811,6 +813,58 @@ private Q_SLOTS:
         QVERIFY(OptionLauncher::installedLine(*launcher).contains(u" -nc "_s));
         QCOMPARE(before.differences(ControlStates(launcher->controls)), QStringList());
         QVERIFY(launcher->settings.CoreEffects && !launcher->settings.BasicDoom);
+    }
+
+    // The dialog of the textures' location: what it shows, asks and stores.
+    void texturePath()
+    {
+        LauncherFixture f;
+        Launcher& launcher = f.launcher;
+        const QString file = u"VYKLaunch/Data/texpath.vyk"_s;
+        f.installation.add(file, "/gone");
+        ShowTexturePath(launcher);
+        QCOMPARE(launcher.controls.HiResText.text, NoTextures);
+        QVERIFY(!f.installation.exists(file));
+
+        f.installation.addFolder(u"mine/Textures"_s);
+        f.installation.addFolder(u"mine/Patches"_s);
+        launcher.controls.chkMain[1].enabled = launcher.controls.chkGraphics[4].enabled = false;
+        f.prompts.expectFile(f.path(u"mine"_s));
+        SetTexPath(launcher);
+        QCOMPARE(launcher.settings.TexturePath, f.path(u"mine"_s));
+        QCOMPARE(f.installation.read(file), ToAnsi(NativePath(f.path(u"mine"_s)) + u"\r\n"_s));
+        QVERIFY(launcher.controls.chkMain[1].enabled && launcher.controls.chkGraphics[4].enabled);
+
+        f.prompts.expectFile({}); // cancelled
+        SetTexPath(launcher);
+        QCOMPARE(launcher.settings.TexturePath, f.path(u"mine"_s));
+        f.installation.addFolder(u"Data/Textures"_s);
+        f.prompts.expectFile(f.path(u"Data/Textures"_s)); // the usual one is not stored
+        SetTexPath(launcher);
+        QVERIFY(!f.installation.exists(file));
+        f.prompts.expectFile(f.path(u"VYKLaunch"_s)); // no textures there: the usual one
+        SetTexPath(launcher);
+        QCOMPARE(launcher.controls.HiResText.text, NativePath(f.path(u"Data/Textures"_s)));
+
+        const auto asked = [&](int length) {
+            launcher.settings.TexturePath = u'/' + QString(length - 1, u'x');
+            f.prompts.expectFile({});
+            SetTexPath(launcher);
+            return f.prompts.folderTexts.last();
+        };
+        const QString question = u"Select the new location of your high resolution textures ..."_s;
+        QVERIFY(asked(30).startsWith(u"Current Location: /xx"_s) && asked(30).endsWith(u"\r\n"_s + question));
+        QVERIFY(asked(31).startsWith(u"Location: /xx"_s) && asked(40).startsWith(u"Location: /xx"_s));
+        QVERIFY(asked(41).startsWith(u"/xx"_s) && asked(49).startsWith(u"/xx"_s));
+        QCOMPARE(asked(50), question);
+
+        f.files.failOn(u"texpath"_s, FileError::Kind::PermissionDenied);
+        f.prompts.expectMessage();
+        f.prompts.expectFile(f.path(u"mine"_s));
+        SetTexPath(launcher);
+        QCOMPARE(launcher.settings.TexturePath, f.path(u"mine"_s));
+        launcher.controls.AuxButton[9].clicked();
+        QCOMPARE(f.window.calls.last(), u"showTexForm"_s);
     }
 };
 

@@ -29,6 +29,7 @@ public:
         if (onIwadForm)
             onIwadForm();
     }
+    void showTexForm() override { record(u"showTexForm"); }
     void copyText(const QString& text) override { copied = text; }
     int logicalDpi() const override { return dpi; }
     void endProgram() override { record(u"endProgram"); }

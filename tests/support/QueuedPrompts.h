@@ -19,7 +19,7 @@ public:
 
     // The next message box is answered with `result`.
     void expectMessage(int result = Msg::ResultOk) { m_answers << result; }
-    // The next file dialog is answered with `path`; empty cancels.
+    // The next file or folder dialog is answered with `path`; empty cancels.
     void expectFile(const QString& path) { m_files << path; }
 
     // The next name prompt is answered with `name`; nothing cancels.
@@ -48,6 +48,14 @@ public:
         fileQuestions << question;
         if (m_files.isEmpty())
             qFatal("unexpected file dialog: %s", qPrintable(question.title));
+        return m_files.takeFirst();
+    }
+
+    QString chooseFolder(const QString& text, const QString&) override
+    {
+        folderTexts << text;
+        if (m_files.isEmpty())
+            qFatal("unexpected folder dialog: %s", qPrintable(text));
         return m_files.takeFirst();
     }
 
@@ -102,7 +110,7 @@ public:
     }
 
     // What was asked, in order.
-    QStringList texts, titles, opened, cleanupSummaries;
+    QStringList texts, titles, opened, cleanupSummaries, folderTexts;
     QList<int> styles;
     QList<FileQuestion> fileQuestions;
     QList<NameQuestion> nameQuestions;

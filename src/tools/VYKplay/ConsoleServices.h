@@ -15,6 +15,7 @@ public:
 
     int MsgboxPos(const QString& text, int style, const QString& title) override;
     QString chooseFile(const FileQuestion&) override { return {}; }
+    QString chooseFolder(const QString&, const QString&) override { return {}; }
     std::optional<QString> askName(const NameQuestion& question) override { return question.name; }
     QString askPassword(const QString& text) override;
     bool askModelCleanup(const CleanupQuestion&) override { return false; }
@@ -45,6 +46,7 @@ public:
     bool isReachableAt(QPoint) const override { return false; }
     void refresh() override {}
     void showIwadForm() override {}
+    void showTexForm() override {}
     void copyText(const QString&) override {}
     int logicalDpi() const override { return 96; }
     void endProgram() override {}
