@@ -96,7 +96,7 @@ void CheckSoundPack(Launcher& launcher)
 
 void CheckPacksAtLoad(Launcher& launcher)
 {
-    if (!launcher.controls.chkMain[0].ticked() && TexturePathValid(launcher))
-        launcher.controls.HiResText.text = NativePath(launcher.settings.TexturePath);
     CheckGraphicsPacks(launcher);
+    if (!launcher.controls.chkMain[0].ticked() && launcher.resources.textures)
+        launcher.controls.HiResText.text = NativePath(launcher.settings.TexturePath);
 }
