@@ -119,7 +119,7 @@ Controls::Controls()
         {GraphicFrames[4], u" Lighting Effects "_s, Shown},
         {GraphicFrames[5], u" Graphics Options "_s, Shown},
         {SoundFrame[0], u" Sound Options "_s, Shown},
-        {SoundFrame[1], u" Music Playlists "_s, Hidden},
+        {SoundFrame[1], u" Music Playlists "_s, Shown},
         {FrameModel[0], u" Model Packs"_s, Shown},
         {FrameModel[1], u" Model Effects "_s, Shown},
         {ModFrame, QString(), Hidden},
@@ -164,6 +164,11 @@ Controls::Controls()
         {mcDeleteArchive, u"Delete zip file"_s, Shown},
         {mcGwadUnZip, u"Install  to Games List as Gwad"_s, Shown},
         {mcDelSaveGame, u"Delete savegame"_s, Shown},
+        {mcAuto, u"Auto Playlist Selection for Iwads"_s, Shown},
+        {mcAutoSelect[0], u"Doom/Ultimate Doom"_s, Shown},
+        {mcAutoSelect[1], u"Doom II"_s, Shown},
+        {mcAutoSelect[2], u"Plutonia"_s, Shown},
+        {mcAutoSelect[3], u"TNT"_s, Shown},
         {AuxButton[0], u"Install"_s, Shown},
         {AuxButton[2], QString(), Hidden},
         {AuxButton[3], QString(), Hidden},
@@ -185,9 +190,11 @@ Controls::Controls()
     for (const auto& row : others)
         place(row.control, row.caption, row.look);
 
-    LightText.enabled = false; // the edit mode's
+    LightText.enabled = false;                     // the edit mode's
     SkyOpt[0].enabled = SkyOpt[1].enabled = false; // their pack has not been looked for yet
     Sep3.isSeparator = sep1.isSeparator = true;
+    for (MenuItem& game : mcAutoSelect)
+        mcAuto.items.push_back(&game);
 
     Corpse.text = u"9"_s;
     Timeout.text = u"2"_s;

@@ -50,6 +50,10 @@ struct Controls
     const Menu mPopup5{&mcDeleteFolder, &mcRenameFolder, &Sep3, &mcUdirConvert, &mcGwadConvert};
     const Menu mPopup6{&mcUdirUnZip, &sep1, &mcRenameArchive, &mcDeleteArchive, &mcGwadUnZip};
     const Menu mPopup7{&mcDelSaveGame};
+    // ... and of a playlist
+    std::array<MenuItem, 4> mcAutoSelect;
+    MenuItem mcAuto;
+    const Menu mPopup8{&mcAuto};
     CheckBox ChkCM;
     CheckBox chkAutoSelect;
 

@@ -15,6 +15,7 @@
 #include "catalogue/TaskMenus.h"
 #include "launch/CommandPreview.h"
 #include "launch/LaunchButton.h"
+#include "music/Playlists.h"
 #include "options/CleanUpModels.h"
 #include "options/DeveloperSwitches.h"
 #include "options/DisplayMode.h"
@@ -70,6 +71,7 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectTexturePath(*this);
     ConnectModelOptions(*this);
     ConnectSoundOptions(*this);
+    ConnectPlaylists(*this);
     ConnectSpinners(*this);
     ConnectNoMonsters(*this);
     ConnectEditMode(*this);

@@ -8,6 +8,7 @@
 #include "catalogue/Selection.h"
 #include "iwads/IwadPaths.h"
 #include "launch/LaunchState.h"
+#include "music/MusicState.h"
 #include "options/PackFacts.h"
 #include "platform/FileSystem.h"
 #include "platform/Processes.h"
@@ -55,5 +56,6 @@ struct Launcher
     LaunchState launch;
     ModelPacks modelPacks;
     ResourcePacks resources;
+    MusicState music;
     QDateTime resolutionRead; // when the engine had written the resolution that is shown
 };

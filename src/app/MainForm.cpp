@@ -6,6 +6,7 @@
 #include "catalogue/GamesPage.h"
 #include "iwads/IwadForm.h"
 #include "launch/CommandPreview.h"
+#include "music/MusicForm.h"
 #include "options/GraphicsPage.h"
 #include "options/ModelsPage.h"
 #include "options/OptionsPage.h"
@@ -153,6 +154,12 @@ void MainForm::showIwadForm()
 void MainForm::showTexForm()
 {
     TexForm(*m_launcher, this).exec();
+    refresh();
+}
+
+void MainForm::showMusicForm(PlaylistEditor& editor)
+{
+    MusicForm(editor, this).exec();
     refresh();
 }
 

@@ -35,6 +35,7 @@ public:
     void refresh() override;
     void showIwadForm() override;
     void showTexForm() override;
+    void showMusicForm(PlaylistEditor& editor) override;
     void copyText(const QString& text) override;
     int logicalDpi() const override { return logicalDpiX(); }
     void endProgram() override;
@@ -56,8 +57,8 @@ private:
     Launcher* m_launcher = nullptr; // set by attach
     ControlBinder m_binder;
     TitleView* m_title = nullptr;
-    QList<QWidget*> m_optionPages; // those of the tabs after the first; each is filled when it is shown
-    IwadForm* m_iwadForm = nullptr;    // from its first use on
-    bool m_compact = false;            // as the window is sized
-    int m_heightBefore = 0;            // before the controls were written to the widgets
+    QList<QWidget*> m_optionPages;  // those of the tabs after the first; each is filled when it is shown
+    IwadForm* m_iwadForm = nullptr; // from its first use on
+    bool m_compact = false;         // as the window is sized
+    int m_heightBefore = 0;         // before the controls were written to the widgets
 };

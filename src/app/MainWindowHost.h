@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QString>
 
+class PlaylistEditor;
+
 // What the launcher asks of its windows. Positions and sizes are in layout units (device-independent
 // pixels), on the screen that the main window is on.
 class MainWindowHost
@@ -34,8 +36,9 @@ public:
     // Writes what changed in the controls to the widgets, as happens by itself after a user's event.
     virtual void refresh() = 0;
 
-    virtual void showIwadForm() = 0; // modal
-    virtual void showTexForm() = 0;  // modal
+    virtual void showIwadForm() = 0;                        // modal
+    virtual void showTexForm() = 0;                         // modal
+    virtual void showMusicForm(PlaylistEditor& editor) = 0; // modal
 
     virtual void copyText(const QString& text) = 0; // to the clipboard
 

@@ -7,6 +7,8 @@
 #include "catalogue/GameLists.h"
 #include "catalogue/GameStaging.h"
 #include "catalogue/ScriptedMapMode.h"
+#include "music/AutoPlaylist.h"
+#include "music/Playlists.h"
 #include "options/DisplayMode.h"
 #include "options/DisplayResolution.h"
 #include "options/LoadOptions.h"
@@ -110,6 +112,7 @@ void LoadMainWindow(Launcher& launcher)
     emptyZipFolder(launcher);
     placeWindow(launcher);
     ApplySettingsToControls(settings, controls);
+    LoadPlaylists(launcher);
     if (!settings.AdvancedOptions)
         DefaultMode(launcher); // again: the edit mode, say, shows a button
     if (settings.DevelopmentMode)
@@ -128,7 +131,8 @@ void LoadMainWindow(Launcher& launcher)
         return;
 
     CheckOptions(launcher);
-    controls.SoundFrame[1].visible = !settings.PlaylistFrameHidden;
+    if (!settings.PlaylistFrameHidden)
+        controls.SoundFrame[1].visible = true;
     reportReset(launcher);
     RestoreScriptedMapMode(launcher);
     launcher.selection.gamesChanged = false;
@@ -166,7 +170,7 @@ void ActivateMainWindow(Launcher& launcher)
     Controls& controls = launcher.controls;
     if (launcher.settings.SelectedDoomGame.isEmpty())
         controls.PwadList.select(0);
-    if (!launcher.files.fileExists(launcher.paths.LaunchPath + u"music/auto-playlist.vyk"_s))
+    if (!HasAutoPlaylists(launcher))
         controls.chkSound[4].setTicked(false);
     LaunchState& launch = launcher.launch;
     launch.AfterLaunch = launch.AfterLaunch && Reset(launcher);

@@ -47,7 +47,7 @@ struct Settings
     int SmokeMode = 0;
     bool AllowHiResRelocation = false;
     bool HiResSoundPack = false;
-    bool AutoPlaylist = false;
+    bool AutoPlaylistsOn = false;
     bool ForceFmodMidi = false;
     bool IgnorePlaylistIfCustomMusic = false;
     bool ResurrectCorpses = false;
@@ -76,7 +76,7 @@ struct Settings
     bool DisableToolTips = false;
     bool DynamicLighting = false;
     bool ExtraFx = false;
-    bool ManualPlaylist = false;
+    bool ManualPlaylistOn = false;
     bool SpareSound7 = false;
     bool AutoSelect = false;
     int ReservedNumber70 = 0;

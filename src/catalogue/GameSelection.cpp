@@ -5,6 +5,7 @@
 #include "catalogue/ScriptedMaps.h"
 #include "catalogue/ZipLibrary.h"
 #include "launch/ShellOpen.h"
+#include "launch/TextEditor.h"
 #include "options/GraphicsOptions.h"
 #include "options/SpriteOptions.h"
 #include "platform/FileNames.h"
@@ -164,12 +165,12 @@ void gameFileDoubleClicked(Launcher& launcher)
     const QString path = launcher.selection.SelectedGameFolder + name;
     if (name.isEmpty())
         return;
-    // Texts without an ending, by which nothing but a text editor is found; where there is none of that
-    // name the system's own choice is one.
+    // Texts without an ending, by which nothing but a text editor is found.
     const bool isText = std::ranges::any_of(
         textLumps, [&](const char16_t* lump) { return SameName(name, QString::fromUtf16(lump)); });
-    const QString editor = u"notepad.exe "_s + u'"' + NativePath(path) + u'"';
-    if (!isText || !launcher.processes.start(editor, launcher.paths.RootPath))
+    if (isText)
+        OpenInTextEditor(launcher, path);
+    else
         ShellOpen(launcher.prompts, path);
 }
 

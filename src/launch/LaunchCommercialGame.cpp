@@ -2,6 +2,7 @@
 
 #include "launch/LaunchSteps.h"
 #include "launch/SwitchTable.h"
+#include "music/AutoPlaylist.h"
 #include "options/ModelPacks.h"
 
 using namespace Qt::StringLiterals;
@@ -28,11 +29,11 @@ LaunchPlan PlanCommercialGame(Launcher& launcher)
         plan.iwadGone = true;
         return plan;
     }
-    return FinishPlan(
-        launcher, std::move(plan),
-        Engine + IwadArgument(launcher, wad) +
-            OptionSwitches(
-                {.launcher = launcher, .path = LaunchPath::CommercialGame, .automaticPlaylist = {}}));
+    return FinishPlan(launcher, std::move(plan),
+                      Engine + IwadArgument(launcher, wad) +
+                          OptionSwitches({.launcher = launcher,
+                                          .path = LaunchPath::CommercialGame,
+                                          .automaticPlaylist = AutomaticPlaylist(launcher)}));
 }
 
 LaunchResult LaunchCommercialGame(Launcher& launcher)

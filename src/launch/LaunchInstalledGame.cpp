@@ -5,6 +5,7 @@
 #include "launch/GameFileArguments.h"
 #include "launch/LaunchSteps.h"
 #include "launch/SwitchTable.h"
+#include "music/AutoPlaylist.h"
 #include "options/ModelPacks.h"
 #include "platform/Paths.h"
 #include "wad/MainWad.h"
@@ -149,7 +150,7 @@ LaunchPlan PlanInstalledGame(Launcher& launcher, const MapCounter& countMaps)
     commandLine += OptionSwitches(
         {.launcher = launcher,
          .path = LaunchPath::InstalledGame,
-         .automaticPlaylist = {},
+         .automaticPlaylist = AutomaticPlaylist(launcher),
          .scriptedMap = launcher.selection.ScriptedMap,
          .scriptedMapModels = launcher.modelPacks.ModelPack2Installed,
          .lateAlternativeWeapons = !launcher.selection.GwadSelected && NeedsAlternativeWeapons(mainWad),

@@ -1,5 +1,6 @@
 #include "options/SoundPage.h"
 
+#include "ui/ListView.h"
 #include "ui/PageBinder.h"
 
 #include <QCheckBox>
@@ -12,7 +13,7 @@ SoundPage::SoundPage(Controls& controls, ControlBinder& binder, QWidget* parent)
 {
     PageBinder make(binder);
     auto& sound = controls.chkSound;
-    QBoxLayout* boxes = PageBinder::column({
+    QBoxLayout* options = PageBinder::column({
         make.checkBox(u"chkSound"_s, sound, 3),
         make.checkBox(u"chkSound"_s, sound, 1),
         make.checkBox(u"chkSound"_s, sound, 0),
@@ -20,8 +21,6 @@ SoundPage::SoundPage(Controls& controls, ControlBinder& binder, QWidget* parent)
         make.checkBox(u"chkSound"_s, sound, 6),
         make.checkBox(u"chkSound"_s, sound, 7),
         make.checkBox(u"chkSound"_s, sound, 8),
-    });
-    QBoxLayout* amounts = PageBinder::column({
         PageBinder::row({
             make.dropDown(u"cbChannels"_s, controls.cbChannels, u"Audio channels"_s),
             make.label(u"TexLabel"_s, controls.TexLabel, 2),
@@ -33,8 +32,28 @@ SoundPage::SoundPage(Controls& controls, ControlBinder& binder, QWidget* parent)
         }),
     });
 
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->addWidget(
-        make.frame(u"SoundFrame_0"_s, controls.SoundFrame[0], PageBinder::beside({boxes, amounts})));
+    auto* playlists = new ListView(u"There are no playlists yet.\n\"New\" makes one."_s);
+    playlists->setAccessibleName(u"Playlists"_s);
+    binder.bind(u"SelectionList"_s, controls.SelectionList, playlists);
+    QBoxLayout* commands = PageBinder::column({
+        make.button(u"butMusic_0"_s, controls.butMusic[0], u"New playlist"_s),
+        make.button(u"butMusic_1"_s, controls.butMusic[1], u"Open playlist"_s),
+        make.button(u"butMusic_2"_s, controls.butMusic[2], u"Delete playlist"_s),
+    });
+    QBoxLayout* choice = PageBinder::row({
+        make.pushBox(u"chkSound_4"_s, sound[4], u"Auto playlist"_s),
+        make.pushBox(u"chkSound_5"_s, sound[5], u"Manual playlist"_s),
+        make.checkBox(u"chkSound"_s, sound, 10),
+    });
+    auto* listAndCommands = new QHBoxLayout;
+    listAndCommands->addWidget(playlists, 1);
+    listAndCommands->addLayout(commands);
+    auto* music = new QVBoxLayout;
+    music->addLayout(listAndCommands, 1);
+    music->addLayout(choice);
+
+    auto* frames = new QHBoxLayout(this);
+    frames->setContentsMargins(0, 0, 0, 0);
+    frames->addWidget(make.frame(u"SoundFrame_0"_s, controls.SoundFrame[0], options));
+    frames->addWidget(make.frame(u"SoundFrame_1"_s, controls.SoundFrame[1], music), 1);
 }

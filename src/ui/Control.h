@@ -11,6 +11,7 @@
 enum class Colour {
     Normal, // the palette's text or button colour
     Accent, // (192, 0, 0)
+    Red,    // (255, 0, 0)
 };
 
 struct Control
@@ -37,15 +38,18 @@ struct TextBox : Control
     std::function<void()> typed; // the player changed the text
 };
 
+struct MenuItem;
+
+// A task menu: its entries from the top. They must outlive it.
+using Menu = std::vector<MenuItem*>;
+
 // An entry of a task menu.
 struct MenuItem : Control
 {
     bool isSeparator = false;
+    Menu items; // the menu that it opens, if it does nothing else
     std::function<void()> clicked;
 };
-
-// A task menu: its entries from the top. They must outlive it.
-using Menu = std::vector<MenuItem*>;
 
 class CheckBox : public Control
 {
@@ -60,7 +64,8 @@ public:
     // The value that the window is built with: runs nothing.
     void startAs(int value) { m_value = value; }
 
-    std::function<void()> clicked;
+    std::function<void()> clicked; // the value changed, by the user or by a rule
+    std::function<void()> chosen;  // the user clicked the box, after `clicked`
 
 private:
     int m_value = 0;

@@ -5,8 +5,8 @@
 #include "ui/StyleView.h"
 #include "ui/TaskMenuView.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -60,7 +60,7 @@ void ControlBinder::writePart(const Control& control, QWidget* widget)
         widget->setVisible(control.visible);
     writeName(control, widget);
     writeToolTip(control, widget);
-    ShowAccent(widget, control.colour == Colour::Accent);
+    ShowColour(widget, control.colour);
 }
 
 void ControlBinder::writeShared(const Control& control, QWidget* widget)
@@ -130,7 +130,7 @@ void ControlBinder::bind(const QString& objectName, Button& control, QAbstractBu
     });
 }
 
-void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox* box)
+void ControlBinder::bind(const QString& objectName, CheckBox& control, QAbstractButton* box)
 {
     name(box, objectName);
     m_writers.emplace_back([this, &control, box] {
@@ -139,8 +139,13 @@ void ControlBinder::bind(const QString& objectName, CheckBox& control, QCheckBox
         if (box->isChecked() != control.ticked())
             box->setChecked(control.ticked());
     });
-    connect(box, &QCheckBox::clicked, this,
-            [this, &control](bool on) { run([&control, on] { control.setTicked(on); }); });
+    connect(box, &QAbstractButton::clicked, this, [this, &control](bool on) {
+        run([&control, on] {
+            control.setTicked(on);
+            if (control.chosen)
+                control.chosen();
+        });
+    });
 }
 
 void ControlBinder::bind(const QString& objectName, OptionButtons& control,

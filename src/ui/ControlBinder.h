@@ -12,7 +12,6 @@
 class FrameView;
 class ListView;
 class QAbstractButton;
-class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -34,7 +33,7 @@ public:
     void bind(const QString& name, Control& control, FrameView* frame);
     void bind(const QString& name, Control& control, QLabel* label);
     void bind(const QString& name, Button& control, QAbstractButton* button);
-    void bind(const QString& name, CheckBox& control, QCheckBox* box);
+    void bind(const QString& name, CheckBox& control, QAbstractButton* box); // a checkable one
     void bind(const QString& name, OptionButtons& control, const QList<QAbstractButton*>& buttons);
     // An empty text that cannot be edited shows its tip in its place, which says why it is empty.
     void bind(const QString& name, TextBox& control, QLineEdit* edit);

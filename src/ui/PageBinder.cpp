@@ -37,6 +37,15 @@ QCheckBox* PageBinder::checkBox(const QString& name, CheckBox& control)
     return box;
 }
 
+QAbstractButton* PageBinder::pushBox(const QString& name, CheckBox& control, const QString& accessibleName)
+{
+    auto* box = new QPushButton;
+    box->setCheckable(true);
+    box->setAccessibleName(accessibleName);
+    m_binder.bind(name, control, box);
+    return box;
+}
+
 QLabel* PageBinder::label(const QString& name, Control& control)
 {
     auto* label = new QLabel;

@@ -32,6 +32,7 @@ public:
     explicit PageBinder(ControlBinder& binder) : m_binder(binder) {}
 
     QCheckBox* checkBox(const QString& name, CheckBox& control);
+    QAbstractButton* pushBox(const QString& name, CheckBox& control, const QString& accessibleName);
     QLabel* label(const QString& name, Control& control);
     QAbstractButton* button(const QString& name, Button& control, const QString& accessibleName = {});
     QComboBox* dropDown(const QString& name, ListBox& control, const QString& accessibleName);

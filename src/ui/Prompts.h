@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -25,12 +26,19 @@ constexpr int ResultYes = 6;
 constexpr int ResultNo = 7;
 } // namespace Msg
 
+struct FileFilter
+{
+    QString filter;  // what the files are called
+    QString pattern; // "*.wad", or several with a semicolon after each
+};
+
 struct FileQuestion
 {
     QString title;
-    QString filter;  // what the files are called
-    QString pattern; // "*.wad", or several with a semicolon after each
-    QString folder;  // where to start, with '/'
+    QString filter;                 // of the files to choose from at first
+    QString pattern;                // theirs
+    QString folder;                 // where to start, with '/'
+    QList<FileFilter> further = {}; // what the player can choose from instead
 };
 
 struct NameQuestion

@@ -67,6 +67,16 @@ int resultOf(QMessageBox::StandardButton button)
     }
 }
 
+// As the file dialog wants it.
+QString filterText(const FileFilter& filter)
+{
+    if (filter.pattern == u"*.*"_s)
+        return filter.filter + u" (*)"_s; // a name need not have an extension
+    const QString patterns = filter.pattern.split(u';', Qt::SkipEmptyParts).join(u' ');
+    return filter.filter + u" ("_s + patterns + u' ' + patterns.toUpper() +
+           u')'; // names compare without regard to case
+}
+
 } // namespace
 
 QWidget* PromptsView::over() const
@@ -99,10 +109,11 @@ int PromptsView::MsgboxPos(const QString& text, int style, const QString& title)
 
 QString PromptsView::chooseFile(const FileQuestion& question)
 {
-    const QString patterns = question.pattern.split(u';', Qt::SkipEmptyParts).join(u' ');
-    const QString filter = question.filter + u" ("_s + patterns + u' ' + patterns.toUpper() +
-                           u')'; // names compare without regard to case
-    return WithSlashes(QFileDialog::getOpenFileName(over(), question.title, question.folder, filter));
+    QStringList filters{filterText({question.filter, question.pattern})};
+    for (const FileFilter& filter : question.further)
+        filters << filterText(filter);
+    return WithSlashes(
+        QFileDialog::getOpenFileName(over(), question.title, question.folder, filters.join(u";;"_s)));
 }
 
 QString PromptsView::chooseFolder(const QString& text, const QString& folder)

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "ui/Control.h"
+
 #include <QWidget>
 
-// The launcher's own colours over the player's palette.
-
-// A push button is filled with the accent, (192, 0, 0), and has a light text; other widgets show their text
-// in it. Without accent the widget looks as the player's palette says.
-void ShowAccent(QWidget* widget, bool accent);
+// Shows the widget in one of the launcher's own colours over the player's palette. In the accent a push
+// button is filled and has a light text; everything else shows its text in the colour. Colour::Normal is
+// what the palette says.
+void ShowColour(QWidget* widget, Colour colour);

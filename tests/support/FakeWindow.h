@@ -30,6 +30,12 @@ public:
             onIwadForm();
     }
     void showTexForm() override { record(u"showTexForm"); }
+    void showMusicForm(PlaylistEditor& editor) override
+    {
+        record(u"showMusicForm");
+        if (onMusicForm)
+            onMusicForm(editor);
+    }
     void copyText(const QString& text) override { copied = text; }
     int logicalDpi() const override { return dpi; }
     void endProgram() override { record(u"endProgram"); }
@@ -44,6 +50,7 @@ public:
     int dpi = 96;
     QStringList calls;
     std::function<void()> onIwadForm; // what the player does in the dialog
+    std::function<void(PlaylistEditor&)> onMusicForm;
 
 private:
     void record(QStringView call) { calls << call.toString(); }

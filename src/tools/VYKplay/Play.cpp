@@ -6,6 +6,7 @@
 #include "catalogue/GameLists.h"
 #include "catalogue/InstallGame.h"
 #include "launch/LaunchButton.h"
+#include "music/Playlists.h"
 #include "options/LoadOptions.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
@@ -39,6 +40,7 @@ void load(Launcher& launcher, QTextStream& err)
     PrepareOptions(launcher);
     BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
     ApplySettingsToControls(launcher.settings, launcher.controls);
+    FillPlaylistList(launcher);
     if (launcher.settings.Skill == 0)
         launcher.launch.StartChoice = StartChoice::NewGame;
     CheckOptions(launcher);
