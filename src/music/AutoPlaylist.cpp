@@ -32,10 +32,12 @@ QString pathOf(const Launcher& launcher)
     return launcher.paths.LaunchPath + u"music/auto-playlist.vyk"_s;
 }
 
-// The lines, each as it stands; those that are missing are the initial ones.
+// The lines, each as it stands; those that are missing, or all of a file that cannot be ours, are the initial
+// ones.
 QStringList readLines(const Launcher& launcher)
 {
-    QStringList lines = LinesOf(FromAnsi(launcher.files.read(pathOf(launcher), maximumBytes)));
+    const QByteArray bytes = launcher.files.read(pathOf(launcher), maximumBytes);
+    QStringList lines = bytes.size() < maximumBytes ? LinesOf(FromAnsi(bytes)) : QStringList();
     while (lines.size() < initialLines.size())
         lines << initialLines.at(lines.size());
     return lines;

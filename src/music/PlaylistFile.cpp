@@ -15,8 +15,8 @@ const QByteArray byteOrderMark = "\xEF\xBB\xBF"_ba;
 
 bool isText(const QString& line)
 {
-    return std::ranges::all_of(line,
-                               [](QChar c) { return c == u'\t' || c.category() != QChar::Other_Control; });
+    constexpr QChar rubout(0x7F);
+    return std::ranges::all_of(line, [](QChar c) { return c == u'\t' || (c >= u' ' && c != rubout); });
 }
 
 QByteArray encoded(const QString& text, bool asUtf8)

@@ -238,9 +238,9 @@ void MainFormWindowTest::theKeyboardGoesFromTheTabsThroughThePage()
     find<QAbstractButton>(u"chkMain_2"_s)->click();
     find<QAbstractButton>(u"OptionTabs_3"_s)->click();
     find<QWidget>(u"OptionTabs_4"_s)->setFocus();
-    for (const QString& name :
-         {u"chkSound_3"_s, u"chkSound_1"_s, u"chkSound_0"_s, u"chkSound_9"_s, u"cbChannels"_s,
-          u"chkSound_2"_s, u"RicoButton_0"_s, u"RicoButton_1"_s, u"chkMain_0"_s}) {
+    for (const QString& name : {u"chkSound_3"_s, u"chkSound_1"_s, u"chkSound_0"_s, u"chkSound_9"_s,
+                                u"cbChannels"_s, u"chkSound_2"_s, u"RicoButton_0"_s, u"RicoButton_1"_s,
+                                u"SelectionList"_s, u"butMusic_0"_s, u"chkSound_10"_s, u"chkMain_0"_s}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget()->objectName(), name);
     }

@@ -24,7 +24,6 @@ private Q_SLOTS:
         QCOMPARE(f.launcher.launch.StartChoice, StartChoice::NewGame);
         QVERIFY(f.launcher.controls.ExitOption[2].visible && !f.launcher.controls.ExitOption[0].visible);
         QVERIFY(f.window.calls.isEmpty()); // start-up shows it
-        QVERIFY(!f.launcher.controls.SoundFrame[1].visible);
         QCOMPARE(f.launcher.iwads.ShowIwads[0], iwad);
     }
 
@@ -209,6 +208,7 @@ private Q_SLOTS:
         Controls& controls = f.launcher.controls;
         f.addIwad(u"Data/Doom2.wad"_s);
         f.installation.add(u"VYKLaunch/Music/Auto-Playlist.vyk"_s);
+        f.installation.add(u"VYKLaunch/Music/Mine.vym"_s);
         f.setConfig(f.configWith({{14, u" 1 "_s}, {37, u" 1 "_s}, {80, u" 0 "_s}}));
         LoadMainWindow(f.launcher);
         QVERIFY(controls.chkTesting.visible && controls.ExitOption[0].visible &&

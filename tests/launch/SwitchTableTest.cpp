@@ -71,8 +71,8 @@ void loud(Case& c)
                                    &Settings::TovrensReplacements,
                                    &Settings::HiResSoundPack,
                                    &Settings::Sound3D,
-                                   &Settings::ManualPlaylist,
-                                   &Settings::AutoPlaylist,
+                                   &Settings::ManualPlaylistOn,
+                                   &Settings::AutoPlaylistsOn,
                                    &Settings::IgnorePlaylistIfCustomMusic,
                                    &Settings::ForceFmodMidi,
                                    &Settings::NoForcedModels,
@@ -246,7 +246,7 @@ private Q_SLOTS:
         both(
             "no music",
             [](Case& c) {
-                c.set.DisableMusic = c.set.ForceFmodMidi = c.set.Sound3D = c.set.ManualPlaylist = true;
+                c.set.DisableMusic = c.set.ForceFmodMidi = c.set.Sound3D = c.set.ManualPlaylistOn = true;
             },
             u"-3d -ch 128 -nomusic "_s + cmd);
         both(
@@ -255,7 +255,7 @@ private Q_SLOTS:
         both(
             "playlists that are not there",
             [](Case& c) {
-                c.set.ManualPlaylist = c.set.AutoPlaylist = true;
+                c.set.ManualPlaylistOn = c.set.AutoPlaylistsOn = true;
                 c.set.PlaylistName = u"gone"_s, c.autoPlaylist = u"gone"_s;
             },
             none);

@@ -71,7 +71,7 @@ void OptionPagesWindowTest::init()
     addBoxes(u"chkMain"_s, controls.chkMain, {1, 7});
     addBoxes(u"chkVYKOpts"_s, controls.chkVYKOpts, {0, 1, 2, 3, 4, 5, 6, 7, 8});
     addBoxes(u"chkLaunchPrefs"_s, controls.chkLaunchPrefs, {0, 1, 2, 3, 4, 5});
-    addBoxes(u"chkSound"_s, controls.chkSound, {0, 1, 2, 3, 6, 7, 8, 9});
+    addBoxes(u"chkSound"_s, controls.chkSound, {0, 1, 2, 3, 6, 7, 8, 9, 10});
     addBoxes(u"chkGraphics"_s, controls.chkGraphics, {0, 1, 2, 3, 4});
     addBoxes(u"chkEffects"_s, controls.chkEffects, {0, 1, 2, 3});
     addBoxes(u"ChkModelOpts"_s, controls.ChkModelOpts, {1});
@@ -171,6 +171,7 @@ void OptionPagesWindowTest::listsLabelsAndFramesSayWhatTheirControlsSay()
                                                         {u"GraphicFrames_4"_s, &controls.GraphicFrames[4]},
                                                         {u"GraphicFrames_5"_s, &controls.GraphicFrames[5]},
                                                         {u"SoundFrame_0"_s, &controls.SoundFrame[0]},
+                                                        {u"SoundFrame_1"_s, &controls.SoundFrame[1]},
                                                         {u"FrameModel_0"_s, &controls.FrameModel[0]},
                                                         {u"FrameModel_1"_s, &controls.FrameModel[1]},
                                                         {u"ModFrame"_s, &controls.ModFrame}};
