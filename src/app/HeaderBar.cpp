@@ -1,5 +1,6 @@
 #include "app/HeaderBar.h"
 
+#include "ui/PageBinder.h"
 #include "ui/TitleView.h"
 
 #include <QHBoxLayout>
@@ -58,14 +59,10 @@ QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
     row->setContentsMargins(12, 0, 12, 0);
     row->setSpacing(4);
 
-    constexpr int install = 0;
-    constexpr int iwadLocations = 5;
-    constexpr int modelCleanup = 8;
-    for (const int tool : {install, iwadLocations, modelCleanup}) {
-        auto* button = new QPushButton;
-        binder.bind(NameOf(u"AuxButton"_s, tool), controls.AuxButton[static_cast<size_t>(tool)], button);
-        row->addWidget(button);
-    }
+    constexpr int tools = 9; // the last of the buttons is on a page
+    PageBinder make(binder);
+    for (int tool = 0; tool < tools; ++tool)
+        row->addWidget(make.toolButton(controls.AuxButton, tool));
 
     auto* wine = new QLabel;
     binder.bind(u"WineImage"_s, controls.WineImage, wine);

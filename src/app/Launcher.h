@@ -28,6 +28,7 @@ struct StartUpState
     bool ConfigReadError = false; // ... because the first line could not be read
     bool RunningUnderWine = false;
     bool ShuttingDown = false; // nothing is saved any more
+    bool RestartRequested = false;
 };
 
 // Everything the launcher knows, and the services it works with, which must outlive it.
@@ -57,5 +58,6 @@ struct Launcher
     ModelPacks modelPacks;
     ResourcePacks resources;
     MusicState music;
-    QDateTime resolutionRead; // when the engine had written the resolution that is shown
+    QString documentationFolder; // of the documentation opened last, with '/'; empty at first
+    QDateTime resolutionRead;    // when the engine had written the resolution that is shown
 };

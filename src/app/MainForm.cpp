@@ -1,8 +1,10 @@
 #include "app/MainForm.h"
 
+#include "app/FontForm.h"
 #include "app/HeaderBar.h"
 #include "app/MainWindowLoad.h"
 #include "app/StripBar.h"
+#include "app/TipsForm.h"
 #include "catalogue/GamesPage.h"
 #include "iwads/IwadForm.h"
 #include "launch/CommandPreview.h"
@@ -154,6 +156,18 @@ void MainForm::showIwadForm()
 void MainForm::showTexForm()
 {
     TexForm(*m_launcher, this).exec();
+    refresh();
+}
+
+void MainForm::showFontForm()
+{
+    FontForm(*m_launcher, this).exec();
+    refresh();
+}
+
+void MainForm::showTips()
+{
+    TipsForm(*m_launcher, this).exec();
     refresh();
 }
 

@@ -35,6 +35,8 @@ public:
     void refresh() override;
     void showIwadForm() override;
     void showTexForm() override;
+    void showFontForm() override;
+    void showTips();
     void showMusicForm(PlaylistEditor& editor) override;
     void copyText(const QString& text) override;
     int logicalDpi() const override { return logicalDpiX(); }

@@ -38,6 +38,7 @@ public:
 
     virtual void showIwadForm() = 0;                        // modal
     virtual void showTexForm() = 0;                         // modal
+    virtual void showFontForm() = 0;                        // modal
     virtual void showMusicForm(PlaylistEditor& editor) = 0; // modal
 
     virtual void copyText(const QString& text) = 0; // to the clipboard

@@ -2,7 +2,9 @@
 
 #include "app/SettingsControls.h"
 #include "app/SettingsLoad.h"
+#include "app/StartUp.h"
 #include "app/Themes.h"
+#include "app/Tips.h"
 #include "app/ToolTips.h"
 #include "catalogue/GameLists.h"
 #include "catalogue/GameStaging.h"
@@ -99,6 +101,8 @@ void LoadMainWindow(Launcher& launcher)
         return;
     PrepareOptions(launcher);
     GetTitlePic(launcher);
+    if (!settings.ShowTipsAtStartup)
+        Tips hidden(launcher); // each start has its tip, shown or not
     if (!settings.DisableToolTips)
         ToolTipText(launcher);
     if (!settings.AdvancedOptions)
@@ -163,6 +167,8 @@ void UnloadMainWindow(Launcher& launcher)
                                        NativePath(ConfigPath(launcher)) + u"    "_s,
                                    Msg::Ok + Msg::Exclamation, u" Access error"_s);
     }
+    if (launcher.startUp.RestartRequested)
+        RestartLauncher(launcher);
 }
 
 void ActivateMainWindow(Launcher& launcher)

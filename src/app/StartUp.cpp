@@ -161,6 +161,8 @@ void ShutDownLauncher(Launcher& launcher)
 
 void RestartLauncher(Launcher& launcher)
 {
-    launcher.processes.start(u'"' + launcher.paths.RootPath + u"/bin/VYKlauncher.exe\" /RESTART"_s,
-                             launcher.paths.RootPath);
+    const QString commandLine = u'"' + launcher.paths.RootPath + u"/bin/VYKlauncher.exe\" /RESTART"_s;
+    if (!launcher.processes.start(commandLine, launcher.paths.RootPath))
+        launcher.prompts.MsgboxPos(u"The launcher could not be started again.    "_s,
+                                   Msg::Ok + Msg::Exclamation, u"Startup error"_s);
 }

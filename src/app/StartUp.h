@@ -32,5 +32,6 @@ QString CheckRequiredFiles(const FileSystem& files, const InstallationPaths& pat
 // Ends the launcher without saving.
 void ShutDownLauncher(Launcher& launcher);
 
-// Starts the launcher anew, past the question whether one is running.
+// Starts the launcher anew, past the question whether one is running. When it cannot be started there is a
+// message.
 void RestartLauncher(Launcher& launcher);

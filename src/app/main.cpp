@@ -54,7 +54,7 @@ int main(int argc, char** argv)
         .activateRunningInstance = [&] { return instance.activateRunning(); },
         .claimInstanceWhenFree = [&] { instance.claimWhenFree(activate); },
         .componentsPresent = [&] { return jpeg.get(); },
-        .showTips = [] {},
+        .showTips = [&window] { window.showTips(); },
     };
     const QString arguments = QApplication::arguments().mid(1).join(u' ');
     return Main(launcher, arguments, services) == StartResult::Running ? QApplication::exec() : 0;

@@ -64,26 +64,25 @@ QLayout* purge(Controls& controls, PageBinder& make, int button, int label)
 
 QWidget* controlsFrame(Controls& controls, PageBinder& make, QWidget* hotSpot)
 {
-    return make.frame(
-        u"OptFrame_3"_s, controls.OptFrame[3],
-        {
-            make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 0),
-            make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 1),
-            make.checkBox(u"chkMain"_s, controls.chkMain, 7),
-            PageBinder::row({
-                make.checkBox(u"ChkGL"_s, controls.ChkGL),
-                make.label(u"ExpLabel"_s, controls.ExpLabel),
-                make.spinner({u"Explosion"_s, u"Timeout"_s, controls.Timeout, u"butLeft2"_s,
-                              controls.butLeft2, u"butRight2"_s, controls.butRight2}),
-            }),
-            PageBinder::row({
-                make.checkBox(u"TexPathLabel"_s, controls.TexPathLabel),
-                make.button(u"AuxButton_9"_s, controls.AuxButton[9], u"Browse for the hi-res location"_s),
-            }),
-            purge(controls, make, 1, 0),
-            purge(controls, make, 0, 1),
-            hotSpot,
-        });
+    return make.frame(u"OptFrame_3"_s, controls.OptFrame[3],
+                      {
+                          make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 0),
+                          make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 1),
+                          make.checkBox(u"chkMain"_s, controls.chkMain, 7),
+                          PageBinder::row({
+                              make.checkBox(u"ChkGL"_s, controls.ChkGL),
+                              make.label(u"ExpLabel"_s, controls.ExpLabel),
+                              make.spinner({u"Explosion"_s, u"Timeout"_s, controls.Timeout, u"butLeft2"_s,
+                                            controls.butLeft2, u"butRight2"_s, controls.butRight2}),
+                          }),
+                          PageBinder::row({
+                              make.checkBox(u"TexPathLabel"_s, controls.TexPathLabel),
+                              make.toolButton(controls.AuxButton, 9, u"Browse for the hi-res location"_s),
+                          }),
+                          purge(controls, make, 1, 0),
+                          purge(controls, make, 0, 1),
+                          hotSpot,
+                      });
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "options/PresenceChecks.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
+#include "ui/FolderQuestion.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,18 +12,6 @@ namespace {
 constexpr size_t dialogButton = 9;    // AuxButton
 constexpr size_t highResTextures = 1; // chkMain
 constexpr size_t highResPatches = 4;  // chkGraphics
-
-QString folderQuestion(const QString& path)
-{
-    constexpr int shortPath = 30, longerPath = 40, longestPath = 49;
-    const QString question = u"Select the new location of your high resolution textures ..."_s;
-    if (path.size() > longestPath)
-        return question;
-    const QString prefix = path.size() <= shortPath    ? u"Current Location: "_s
-                           : path.size() <= longerPath ? u"Location: "_s
-                                                       : QString();
-    return prefix + path + u"\r\n"_s + question;
-}
 
 // An empty path is not stored.
 void store(Launcher& launcher, const QString& path)
@@ -59,8 +48,9 @@ void ShowTexturePath(Launcher& launcher)
 void SetTexPath(Launcher& launcher)
 {
     const QString shown = NativePath(launcher.settings.TexturePath);
-    const QString chosen =
-        launcher.prompts.chooseFolder(folderQuestion(shown), launcher.settings.TexturePath);
+    const QString chosen = launcher.prompts.chooseFolder(
+        FolderQuestion(shown, u"Select the new location of your high resolution textures ..."_s),
+        launcher.settings.TexturePath);
     if (!chosen.isEmpty())
         launcher.controls.HiResText.text = NativePath(chosen);
     KeepTexturePath(launcher);

@@ -1,6 +1,7 @@
 #include "ui/PageBinder.h"
 
 #include "ui/FrameView.h"
+#include "ui/ToolButtonView.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -58,6 +59,15 @@ QAbstractButton* PageBinder::button(const QString& name, Button& control, const 
     auto* button = new QPushButton;
     button->setAccessibleName(accessibleName);
     m_binder.bind(name, control, button);
+    return button;
+}
+
+QAbstractButton* PageBinder::toolButton(std::array<Button, 10>& tools, int tool,
+                                        const QString& accessibleName)
+{
+    auto* button = new ToolButtonView(tool);
+    button->setAccessibleName(accessibleName);
+    m_binder.bind(NameOf(u"AuxButton"_s, tool), tools.at(static_cast<size_t>(tool)), button);
     return button;
 }
 

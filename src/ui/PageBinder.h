@@ -35,6 +35,7 @@ public:
     QAbstractButton* pushBox(const QString& name, CheckBox& control, const QString& accessibleName);
     QLabel* label(const QString& name, Control& control);
     QAbstractButton* button(const QString& name, Button& control, const QString& accessibleName = {});
+    QAbstractButton* toolButton(std::array<Button, 10>& tools, int tool, const QString& accessibleName = {});
     QComboBox* dropDown(const QString& name, ListBox& control, const QString& accessibleName);
     QLineEdit* textBox(const QString& name, TextBox& control, const QString& accessibleName);
     QList<QAbstractButton*> optionButtons(const QString& array, OptionButtons& controls,

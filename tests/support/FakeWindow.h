@@ -30,6 +30,7 @@ public:
             onIwadForm();
     }
     void showTexForm() override { record(u"showTexForm"); }
+    void showFontForm() override { record(u"showFontForm"); }
     void showMusicForm(PlaylistEditor& editor) override
     {
         record(u"showMusicForm");

@@ -47,6 +47,7 @@ public:
     void refresh() override {}
     void showIwadForm() override {}
     void showTexForm() override {}
+    void showFontForm() override {}
     void showMusicForm(PlaylistEditor&) override {}
     void copyText(const QString&) override {}
     int logicalDpi() const override { return 96; }
