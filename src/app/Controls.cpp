@@ -165,7 +165,7 @@ Controls::Controls()
         {mcGwadUnZip, u"Install  to Games List as Gwad"_s, Shown},
         {mcDelSaveGame, u"Delete savegame"_s, Shown},
         {AuxButton[0], u"Install"_s, Shown},
-        {AuxButton[2], QString(), Hidden},
+        {AuxButton[2], u"Shortcut"_s, Hidden},
         {AuxButton[3], QString(), Hidden},
         {AuxButton[5], u"IWADs"_s, Shown},
         {AuxButton[7], QString(), Hidden},
@@ -185,7 +185,7 @@ Controls::Controls()
     for (const auto& row : others)
         place(row.control, row.caption, row.look);
 
-    LightText.enabled = false; // the edit mode's
+    LightText.enabled = false;                     // the edit mode's
     SkyOpt[0].enabled = SkyOpt[1].enabled = false; // their pack has not been looked for yet
     Sep3.isSeparator = sep1.isSeparator = true;
 

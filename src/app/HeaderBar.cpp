@@ -59,9 +59,10 @@ QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
     row->setSpacing(4);
 
     constexpr int install = 0;
+    constexpr int shortcut = 2;
     constexpr int iwadLocations = 5;
     constexpr int modelCleanup = 8;
-    for (const int tool : {install, iwadLocations, modelCleanup}) {
+    for (const int tool : {install, shortcut, iwadLocations, modelCleanup}) {
         auto* button = new QPushButton;
         binder.bind(NameOf(u"AuxButton"_s, tool), controls.AuxButton[static_cast<size_t>(tool)], button);
         row->addWidget(button);

@@ -1,21 +1,16 @@
 #include "shortcuts/DeleteShortcuts.h"
 
 #include "platform/Paths.h"
+#include "platform/Shortcuts.h"
 #include "platform/SpecialFolders.h"
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString shortcutsIn(const QString& folder)
+ShortcutFolders ShortcutFolders::ofUser(const QString& rootPath)
 {
-    return folder.isEmpty() ? QString() : folder + u"/Keldrax Shortcuts"_s;
-}
-
-} // namespace
-
-ShortcutFolders ShortcutFolders::ofUser()
-{
+    const auto shortcutsIn = [&rootPath](const QString& folder) {
+        return (folder.isEmpty() ? rootPath : folder) + u"/Keldrax Shortcuts"_s;
+    };
     return {shortcutsIn(DesktopFolder()), shortcutsIn(ProgramsFolder())};
 }
 
@@ -23,8 +18,15 @@ void DeleteShortcuts(FileSystem& files, const ShortcutFolders& folders, const QS
 {
     if (name.isEmpty())
         return;
-    for (const QString& folder : {folders.desktop, folders.programs})
-        for (const QString& file : files.files(folder))
-            if (BaseNameOf(file).startsWith(name, Qt::CaseInsensitive))
-                files.remove(folder + u'/' + file);
+    bool found = false;
+    for (const QString& folder : {folders.desktop, folders.programs}) {
+        for (const QString& file : files.files(folder)) {
+            if (!BaseNameOf(file).toCaseFolded().startsWith(name.toCaseFolded()))
+                continue;
+            files.remove(folder + u'/' + file);
+            found = true;
+        }
+    }
+    if (found)
+        RefreshDesktop();
 }
