@@ -185,7 +185,7 @@ Controls::Controls()
     for (const auto& row : others)
         place(row.control, row.caption, row.look);
 
-    LightText.enabled = false;                     // the edit mode's
+    LightText.enabled = false; // the edit mode's
     SkyOpt[0].enabled = SkyOpt[1].enabled = false; // their pack has not been looked for yet
     Sep3.isSeparator = sep1.isSeparator = true;
 
