@@ -3,6 +3,7 @@
 #include "platform/Paths.h"
 #include "platform/Shortcuts.h"
 #include "platform/SpecialFolders.h"
+#include "shortcuts/ShortcutNames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +19,11 @@ void DeleteShortcuts(FileSystem& files, const ShortcutFolders& folders, const QS
 {
     if (name.isEmpty())
         return;
+    const QString written = ShortcutFileName(name, {}); // in some languages small letters are others
     bool found = false;
     for (const QString& folder : {folders.desktop, folders.programs}) {
         for (const QString& file : files.files(folder)) {
-            if (!BaseNameOf(file).toCaseFolded().startsWith(name.toCaseFolded()))
+            if (!BaseNameOf(file).startsWith(written, Qt::CaseInsensitive))
                 continue;
             files.remove(folder + u'/' + file);
             found = true;
