@@ -88,7 +88,8 @@ QWidget* ShortcutForm::shortcutFrame(const ShortcutQuestion& question)
     font.setBold(true);
     label->setFont(font);
     label->setMinimumWidth(textWidth);
-    auto* frame = new QGroupBox;
+    auto* frame = new QFrame;
+    frame->setFrameShape(QFrame::StyledPanel);
     frame->setObjectName(u"ShortcutFrame"_s);
     auto* rows = new QVBoxLayout(frame);
     rows->addWidget(plainLabel(u"ShortcutLabel_0"_s, u"Starts without the launcher:"_s));

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void hostileNames();
     void deletion_data();
     void deletion();
+    void foldersOfTheUser();
 };
 
 void ShortcutsTest::names_data()
@@ -348,6 +349,32 @@ void ShortcutsTest::deletion()
     QCOMPARE(madeIn(game, desktop), left);
     QCOMPARE(madeIn(game, menu), left);
     DeleteShortcuts(game.files, {game.path(u"nowhere"_s), game.path(u"nowhere"_s)}, name);
+}
+
+// A user without a desktop, by the system's rule one whose desktop is the home folder, has the shortcuts in
+// the installation.
+void ShortcutsTest::foldersOfTheUser()
+{
+    TemporaryInstallation home;
+    const std::pair<const char*, QString> variables[] = {
+        {"HOME", home.root()},
+        {"XDG_CONFIG_HOME", home.path(u"config"_s)},
+        {"XDG_DATA_HOME", home.path(u"share"_s)},
+    };
+    QList<QByteArray> before;
+    for (const auto& [name, value] : variables) {
+        before << qgetenv(name);
+        qputenv(name, QFile::encodeName(value));
+    }
+    home.add(u"config/user-dirs.dirs"_s, "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n");
+    const ShortcutFolders usual = ShortcutFolders::ofUser(u"/games"_s);
+    home.add(u"config/user-dirs.dirs"_s, "XDG_DESKTOP_DIR=\"$HOME/\"\n");
+    const ShortcutFolders without = ShortcutFolders::ofUser(u"/games"_s);
+    for (size_t i = 0; i < std::size(variables); ++i)
+        qputenv(variables[i].first, before.at(static_cast<qsizetype>(i)));
+    QCOMPARE(usual.desktop, home.path(u"Schreibtisch/Keldrax Shortcuts"_s));
+    QCOMPARE(usual.programs, home.path(u"share/applications/Keldrax Shortcuts"_s));
+    QCOMPARE(without.desktop, u"/games/Keldrax Shortcuts"_s);
 }
 
 QTEST_GUILESS_MAIN(ShortcutsTest)
