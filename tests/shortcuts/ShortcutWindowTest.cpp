@@ -68,15 +68,9 @@ void ShortcutWindowTest::whatIsTickedIsAnswered()
 void ShortcutWindowTest::explainsItselfUnlessTipsAreOff()
 {
     for (const bool tips : {true, false}) {
-        ShortcutForm form(ShortcutQuestion{.name = u"DOOM II"_s, .toolTips = tips});
-        const QString place =
-            u" shortcut for the selected map. This will be located in the Keldrax shortcuts "
-            "folder. Note: All current settings and options will be used."_s;
-        for (const auto& [name, text] :
-             {std::pair(u"chkShortcut_0"_s, u"Create a Start Menu"_s + place),
-              {u"chkShortcut_1"_s, u"Create a Desktop"_s + place},
-              {u"ChkMapNum"_s, u"Will also display the map number with the shortcut."_s}})
-            QCOMPARE(form.findChild<QCheckBox*>(name)->accessibleDescription(), tips ? text : QString());
+        const ShortcutForm form(ShortcutQuestion{.name = u"DOOM II"_s, .toolTips = tips});
+        for (const auto* box : form.findChildren<QCheckBox*>())
+            QCOMPARE(box->accessibleDescription().isEmpty(), !tips);
     }
 }
 
