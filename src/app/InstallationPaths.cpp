@@ -10,6 +10,7 @@ InstallationPaths::InstallationPaths(const QString& root)
       LaunchPath(RootPath + u"/VYKLaunch/"_s),
       LaunchDataPath(RootPath + u"/VYKLaunch/Data/"_s),
       MusicLaunchPath(RootPath + u"/VYKLaunch/Music/"_s),
+      IconsPath(RootPath + u"/VYKLaunch/Icons/"_s),
       GamesPath(RootPath + u"/VYKGames/"_s),
       Md2Path(RootPath + u"/Md2/"_s),
       BaseDefsPath(RootPath + u"/Defs/Base/"_s),

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+// The launcher's icon: a name in the icon theme, and what the files of its pictures begin with.
+inline const QString LauncherIcon = QStringLiteral("VYKlauncher");
+
 // The folders of an installation, with '/'. All but RootPath and ArchivesPath end in one.
 struct InstallationPaths
 {
@@ -18,6 +21,7 @@ struct InstallationPaths
     QString LaunchPath;
     QString LaunchDataPath;
     QString MusicLaunchPath;
+    QString IconsPath;
     QString GamesPath;
     QString Md2Path;
     QString BaseDefsPath;

@@ -33,6 +33,7 @@
 #include "options/TexturePath.h"
 #include "savegames/DeleteSaveGames.h"
 #include "savegames/SaveGames.h"
+#include "shortcuts/MakeShortcut.h"
 #include "wad/MapList.h"
 
 Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, MainWindowHost& host,
@@ -43,7 +44,7 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
       window(host),
       paths(rootPath),
       environment(IwadEnvironment::ofProcess()),
-      shortcutFolders(ShortcutFolders::ofUser()),
+      shortcutFolders(ShortcutFolders::ofUser(paths.RootPath)),
       settings(DefaultSettings())
 {
     ConnectThemes(*this);
@@ -77,6 +78,7 @@ Launcher::Launcher(FileSystem& disk, Processes& programs, Prompts& questions, Ma
     ConnectEditMode(*this);
     ConnectModelCleanup(*this);
     ConnectNodePurge(*this);
+    ConnectShortcuts(*this);
     ConnectLaunchButton(*this);
     ConnectCommandPreview(*this);
 }

@@ -8,20 +8,12 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <cerrno>
-#include <expected>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString exe = u".exe"_s;
-
-struct Command
-{
-    QString program;
-    QStringList arguments;
-    QString folder;
-};
 
 bool IsWindowsProgram(const FileSystem& files, const QString& path)
 {
@@ -32,23 +24,12 @@ bool IsWindowsProgram(const FileSystem& files, const QString& path)
     }
 }
 
-// What to start for a command line, or the system's error number.
 std::expected<Command, int> Resolve(const FileSystem& files, const QString& commandLine,
                                     const QString& folder)
 {
     QStringList arguments = SplitCommandLine(commandLine);
-    const QString program =
-        arguments.isEmpty() ? QString() : FindProgram(files, arguments.takeFirst(), folder);
-    if (program.isEmpty() || !files.folderExists(folder))
-        return std::unexpected(ENOENT);
-    const QString actualFolder = files.actualPath(folder);
-    const bool onWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
-    if (onWindows || !IsWindowsProgram(files, program))
-        return Command{program, arguments, actualFolder};
-    const QString wine = QStandardPaths::findExecutable(u"wine"_s);
-    if (wine.isEmpty())
-        return std::unexpected(ENOEXEC);
-    return Command{wine, QStringList(program) + arguments, actualFolder};
+    const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    return ResolveCommand(files, name, arguments, folder);
 }
 
 // QProcess tells why a start failed only in words, which end in the system's own: find their number.
@@ -83,6 +64,22 @@ bool SystemProcesses::start(const QString& commandLine, const QString& folder)
 {
     const auto command = Resolve(m_files, commandLine, folder);
     return command && QProcess::startDetached(command->program, command->arguments, command->folder);
+}
+
+std::expected<Command, int> ResolveCommand(const FileSystem& files, const QString& name,
+                                           const QStringList& arguments, const QString& folder)
+{
+    const QString program = FindProgram(files, name, folder);
+    if (program.isEmpty() || !files.folderExists(folder))
+        return std::unexpected(ENOENT);
+    const QString actualFolder = files.actualPath(folder);
+    const bool onWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+    if (onWindows || !IsWindowsProgram(files, program))
+        return Command{program, arguments, actualFolder};
+    const QString wine = QStandardPaths::findExecutable(u"wine"_s);
+    if (wine.isEmpty())
+        return std::unexpected(ENOEXEC);
+    return Command{wine, QStringList(program) + arguments, actualFolder};
 }
 
 QString FindProgram(const FileSystem& files, const QString& name, const QString& folder)

@@ -3,6 +3,8 @@
 #include "platform/FileSystem.h"
 #include "platform/Processes.h"
 
+#include <expected>
+
 // The system's processes.
 class SystemProcesses : public Processes
 {
@@ -19,3 +21,15 @@ private:
 
 // The path of the program that `name` means in `folder` (see Processes); empty when there is none.
 QString FindProgram(const FileSystem& files, const QString& name, const QString& folder);
+
+// A program by its path, with its arguments and its working folder.
+struct Command
+{
+    QString program;
+    QStringList arguments;
+    QString folder;
+};
+
+// What starting the program `name` in `folder` with these arguments starts, or the system's error number.
+std::expected<Command, int> ResolveCommand(const FileSystem& files, const QString& name,
+                                           const QStringList& arguments, const QString& folder);

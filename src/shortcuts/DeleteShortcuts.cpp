@@ -1,21 +1,17 @@
 #include "shortcuts/DeleteShortcuts.h"
 
 #include "platform/Paths.h"
+#include "platform/Shortcuts.h"
 #include "platform/SpecialFolders.h"
+#include "shortcuts/ShortcutNames.h"
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString shortcutsIn(const QString& folder)
+ShortcutFolders ShortcutFolders::ofUser(const QString& rootPath)
 {
-    return folder.isEmpty() ? QString() : folder + u"/Keldrax Shortcuts"_s;
-}
-
-} // namespace
-
-ShortcutFolders ShortcutFolders::ofUser()
-{
+    const auto shortcutsIn = [&rootPath](const QString& folder) {
+        return (folder.isEmpty() ? rootPath : folder) + u"/Keldrax Shortcuts"_s;
+    };
     return {shortcutsIn(DesktopFolder()), shortcutsIn(ProgramsFolder())};
 }
 
@@ -23,8 +19,16 @@ void DeleteShortcuts(FileSystem& files, const ShortcutFolders& folders, const QS
 {
     if (name.isEmpty())
         return;
-    for (const QString& folder : {folders.desktop, folders.programs})
-        for (const QString& file : files.files(folder))
-            if (BaseNameOf(file).startsWith(name, Qt::CaseInsensitive))
-                files.remove(folder + u'/' + file);
+    const QString written = ShortcutFileName(name, {}); // in some languages small letters are others
+    bool found = false;
+    for (const QString& folder : {folders.desktop, folders.programs}) {
+        for (const QString& file : files.files(folder)) {
+            if (!BaseNameOf(file).startsWith(written, Qt::CaseInsensitive))
+                continue;
+            files.remove(folder + u'/' + file);
+            found = true;
+        }
+    }
+    if (found)
+        RefreshDesktop();
 }

@@ -2,10 +2,11 @@
 
 #include "platform/FileSystem.h"
 
-// Where the launcher's shortcuts lie; each path empty when the system has no such folder.
+// Where the launcher's shortcuts lie.
 struct ShortcutFolders
 {
-    static ShortcutFolders ofUser();
+    // Those of the current user. Where the system has no desktop, or no menu, they lie in the installation.
+    static ShortcutFolders ofUser(const QString& rootPath);
 
     QString desktop;  // "Keldrax Shortcuts" on the desktop
     QString programs; // ... in the start menu's programs

@@ -55,6 +55,20 @@ struct CleanupQuestion
     bool toolTips;   // whether the controls of the dialog explain themselves
 };
 
+struct ShortcutQuestion
+{
+    QString name;  // of what the shortcut is for
+    bool toolTips; // whether the controls of the dialog explain themselves
+};
+
+// Where the player wants a shortcut, at least at one place, and whether its name tells the map.
+struct ShortcutChoice
+{
+    bool StartMenuShortcut = false;
+    bool DesktopShortcut = false;
+    bool IncludeMapInShortcut = false;
+};
+
 // Something that takes a while is shown while this object lives.
 class Progress
 {
@@ -94,6 +108,9 @@ public:
     // The last question before model packs are removed; true means go on. `neverAgain` is told at once
     // whenever the player ticks or unticks "Don't ask this in the future".
     virtual bool confirmModelCleanup(const std::function<void(bool)>& neverAgain) = 0;
+
+    // Asks where to make a shortcut; nothing when cancelled.
+    virtual std::optional<ShortcutChoice> askShortcut(const ShortcutQuestion& question) = 0;
 
     // Says what is being done, with a way to cancel it.
     virtual std::unique_ptr<Progress> showProgress(const QString& what) = 0;

@@ -144,6 +144,12 @@ bool PromptsView::askModelCleanup(const CleanupQuestion& question)
     return ShortcutForm(question, over()).exec() == QDialog::Accepted;
 }
 
+std::optional<ShortcutChoice> PromptsView::askShortcut(const ShortcutQuestion& question)
+{
+    ShortcutForm form(question, over());
+    return form.exec() == QDialog::Accepted ? std::optional(form.choice()) : std::nullopt;
+}
+
 bool PromptsView::confirmModelCleanup(const std::function<void(bool)>& neverAgain)
 {
     return ConfirmForm(neverAgain, over()).exec() == QDialog::Accepted;

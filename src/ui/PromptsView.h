@@ -18,6 +18,7 @@ public:
     QString askPassword(const QString& text) override;
     bool askModelCleanup(const CleanupQuestion& question) override;
     bool confirmModelCleanup(const std::function<void(bool)>& neverAgain) override;
+    std::optional<ShortcutChoice> askShortcut(const ShortcutQuestion& question) override;
     std::unique_ptr<Progress> showProgress(const QString& what) override;
     bool openWithShell(const QString& target) override;
 

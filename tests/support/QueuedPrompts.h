@@ -12,7 +12,7 @@ public:
     ~QueuedPrompts() override
     {
         const auto left = m_answers.size() + m_files.size() + m_names.size() + m_passwords.size() +
-                          m_cleanups.size() + m_confirmations.size();
+                          m_cleanups.size() + m_confirmations.size() + m_shortcuts.size();
         if (left > 0)
             qFatal("%lld expected questions were not asked", static_cast<long long>(left));
     }
@@ -30,6 +30,9 @@ public:
     void expectModelCleanup(bool go) { m_cleanups << go; }
     // The next confirmation is answered with `go`, after `tick` was ticked or not.
     void expectConfirmation(bool go, bool tick = false) { m_confirmations << std::pair(go, tick); }
+
+    // The next shortcut dialog is answered with `choice`; nothing cancels.
+    void expectShortcut(const std::optional<ShortcutChoice>& choice) { m_shortcuts << choice; }
 
     int MsgboxPos(const QString& text, int style, const QString& title) override
     {
@@ -92,6 +95,14 @@ public:
         return go;
     }
 
+    std::optional<ShortcutChoice> askShortcut(const ShortcutQuestion& question) override
+    {
+        shortcutNames << question.name;
+        if (m_shortcuts.isEmpty())
+            qFatal("unexpected shortcut dialog: %s", qPrintable(question.name));
+        return m_shortcuts.takeFirst();
+    }
+
     std::unique_ptr<Progress> showProgress(const QString&) override
     {
         struct Steps : Progress
@@ -110,7 +121,7 @@ public:
     }
 
     // What was asked, in order.
-    QStringList texts, titles, opened, cleanupSummaries, folderTexts;
+    QStringList texts, titles, opened, cleanupSummaries, shortcutNames, folderTexts;
     QList<int> styles;
     QList<FileQuestion> fileQuestions;
     QList<NameQuestion> nameQuestions;
@@ -125,4 +136,5 @@ private:
     QStringList m_passwords;
     QList<bool> m_cleanups;
     QList<std::pair<bool, bool>> m_confirmations;
+    QList<std::optional<ShortcutChoice>> m_shortcuts;
 };

@@ -33,9 +33,10 @@ Arguments ParseArguments(const QStringList& given)
 {
     const QCommandLineOption map(u"map"_s, {}, u"MAP"_s), save(u"save"_s, {}, u"SLOT"_s), newGame(u"new"_s),
         skill(u"skill"_s, {}, u"1-5"_s), dryRun(u"dry-run"_s), view(u"view"_s, {}, u"VIEW"_s),
-        root(u"root"_s, {}, u"DIR"_s), gwad(u"gwad"_s), help(QStringList{u"h"_s, u"help"_s});
+        root(u"root"_s, {}, u"DIR"_s), gwad(u"gwad"_s), remove(u"remove"_s),
+        help(QStringList{u"h"_s, u"help"_s});
     QCommandLineParser parser;
-    parser.addOptions({map, save, newGame, skill, dryRun, view, root, gwad, help});
+    parser.addOptions({map, save, newGame, skill, dryRun, view, root, gwad, remove, help});
     if (!parser.parse(QStringList{u"VYKplay"_s} + given))
         return wrong(parser.errorText());
     Arguments arguments;
@@ -44,7 +45,7 @@ Arguments ParseArguments(const QStringList& given)
 
     QStringList words = parser.positionalArguments();
     if (words.isEmpty())
-        return wrong(u"Say what to do: list, maps, play or install."_s);
+        return wrong(u"Say what to do: list, maps, play, install or integrate."_s);
     const QString command = words.takeFirst();
     arguments.root = parser.value(root);
     if (parser.isSet(view)) {
@@ -61,6 +62,14 @@ Arguments ParseArguments(const QStringList& given)
     if (command != u"install" && parser.isSet(gwad))
         return wrong(u"--gwad belongs to install."_s);
 
+    if (command != u"integrate" && parser.isSet(remove))
+        return wrong(u"--remove belongs to integrate."_s);
+
+    if (command == u"integrate") {
+        arguments.command = Arguments::Command::Integrate;
+        arguments.remove = parser.isSet(remove);
+        return words.isEmpty() ? arguments : wrong(u"integrate takes no names."_s);
+    }
     if (command == u"install") {
         arguments.command = Arguments::Command::Install;
         arguments.files = words;
@@ -104,8 +113,11 @@ QString UsageText()
            "VYKplay maps GAME\n"
            "VYKplay play GAME [--map MAP | --save SLOT | --new] [--skill 1-5] [--dry-run]\n"
            "VYKplay install FILE... [--gwad]\n"
+           "VYKplay integrate [--remove]\n"
            "\n"
            "  --gwad                      as a game that loads its files itself\n"
+           "  integrate                   puts the launcher into this user's menu\n"
+           "  --remove                    takes it out again\n"
            "  --view doom|installed|zips  where to look for GAME (else the first that has it)\n"
            "  --root DIR                  the installation (else the one this program lies in)\n"
            "  --dry-run                   print the command line that would be started\n"

@@ -7,7 +7,7 @@
 // What the console program was asked for.
 struct Arguments
 {
-    enum class Command { List, Maps, Play, Install, Help };
+    enum class Command { List, Maps, Play, Install, Integrate, Help };
 
     Command command = Command::Help;
     QString game;            // of Maps and Play
@@ -23,6 +23,8 @@ struct Arguments
     // Of Install.
     QStringList files;
     bool asGwad = false;
+
+    bool remove = false; // of Integrate: undo it
 
     QString wrong; // what is wrong with the arguments; empty when nothing is
 };

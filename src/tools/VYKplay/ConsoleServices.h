@@ -20,6 +20,7 @@ public:
     QString askPassword(const QString& text) override;
     bool askModelCleanup(const CleanupQuestion&) override { return false; }
     bool confirmModelCleanup(const std::function<void(bool)>&) override { return false; }
+    std::optional<ShortcutChoice> askShortcut(const ShortcutQuestion&) override { return {}; }
     std::unique_ptr<Progress> showProgress(const QString& what) override;
     bool openWithShell(const QString&) override { return false; }
 

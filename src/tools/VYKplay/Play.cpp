@@ -14,6 +14,7 @@
 #include "platform/SystemProcesses.h"
 #include "platform/Text.h"
 #include "tools/VYKplay/ConsoleServices.h"
+#include "tools/VYKplay/Integrate.h"
 #include "wad/MainWad.h"
 
 #include <QFileInfo>
@@ -156,11 +157,17 @@ int install(Launcher& launcher, const Arguments& arguments, QTextStream& err)
 
 int run(Launcher& launcher, const Arguments& arguments, QTextStream& out, QTextStream& err)
 {
+    if (arguments.command == Arguments::Command::Integrate && arguments.remove) {
+        RemoveLauncherFromMenu(launcher.files, MenuFolders::ofUser());
+        return done;
+    }
     const QString missing = CheckRequiredFiles(launcher.files, launcher.paths);
     if (!missing.isEmpty()) {
         err << missing << " has not been detected - re-install Keldrax." << Qt::endl;
         return refused;
     }
+    if (arguments.command == Arguments::Command::Integrate)
+        return AddLauncherToMenu(launcher.files, MenuFolders::ofUser(), launcher.paths, err) ? done : refused;
     load(launcher, err);
     if (arguments.command == Arguments::Command::Install)
         return install(launcher, arguments, err);
@@ -194,8 +201,9 @@ int RunVYKplay(const Arguments& arguments, const QString& root, QTextStream& out
     ConsolePrompts prompts(err, input);
     NoWindow window;
 
-    // Only an installation and a real launch change anything; for the rest a zip is extracted, no more.
+    // Listing and dry runs change nothing; a zip is extracted, no more.
     const bool changes = arguments.command == Arguments::Command::Install ||
+                         arguments.command == Arguments::Command::Integrate ||
                          (arguments.command == Arguments::Command::Play && !arguments.dryRun);
     FileSystem& files = changes ? static_cast<FileSystem&>(disk) : readOnly;
     Processes& processes = changes ? static_cast<Processes&>(system) : printing;

@@ -1,0 +1,91 @@
+#include "shortcuts/MakeShortcut.h"
+
+#include "launch/LaunchCommercialGame.h"
+#include "launch/LaunchInstalledGame.h"
+#include "launch/LaunchSteps.h"
+#include "platform/Shortcuts.h"
+#include "shortcuts/ShortcutNames.h"
+
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr size_t toolbarButton = 2; // AuxButton
+
+// A picture that the installation brings; without it, the name under which a menu entry has it.
+QString launcherIcon(const Launcher& launcher)
+{
+    const QString picture =
+        launcher.files.actualPath(launcher.paths.IconsPath + LauncherIcon + u"-128.png"_s);
+    return picture.isEmpty() ? LauncherIcon : picture;
+}
+
+// False, with a message, when the shortcut cannot be written.
+bool CreateLink(Launcher& launcher, const QString& folder, const QString& fileName, const QString& arguments)
+{
+    try {
+        // A separator would lead out of the folder.
+        if (fileName.contains(u'/') || fileName.contains(u'\\'))
+            throw std::invalid_argument("no file can have this name");
+        launcher.files.createFolder(folder);
+        WriteShortcut(launcher.files, {.folder = folder,
+                                       .name = fileName,
+                                       .arguments = arguments,
+                                       .target = launcher.paths.RootPath + u"/Bin/Keldrax.exe"_s,
+                                       .workingDirectory = folder,
+                                       .windowStyle = 0,
+                                       .program = Engine,
+                                       .launchFolder = launcher.paths.RootPath,
+                                       .icon = launcherIcon(launcher)});
+        return true;
+    } catch (const std::exception&) {
+        launcher.prompts.MsgboxPos(u" It appears you don't have adequate UAC privileges    "_s,
+                                   Msg::Ok + Msg::Information, u"Permissions"_s);
+        return false;
+    }
+}
+
+// The arguments with which a launch would start the engine; nothing when it would not.
+std::optional<QString> launchArguments(Launcher& launcher)
+{
+    launcher.launch.ShortcutMode = true;
+    const LaunchResult result =
+        launcher.selection.DoomGameSelected ? LaunchCommercialGame(launcher) : LaunchInstalledGame(launcher);
+    return result == LaunchResult::HandedOver ? std::optional(launcher.launch.ShortcutArguments)
+                                              : std::nullopt;
+}
+
+} // namespace
+
+void ConnectShortcuts(Launcher& launcher)
+{
+    launcher.controls.AuxButton[toolbarButton].clicked = [&launcher] { MakeShortcut(launcher); };
+}
+
+void MakeShortcut(Launcher& launcher)
+{
+    const auto choice = launcher.prompts.askShortcut(
+        {.name = GetShortcutName(launcher), .toolTips = !launcher.settings.DisableToolTips});
+    const QString name = ShortcutNameOf(launcher);
+    if (!choice || name.isEmpty() || launcher.selection.ArchiveSelected ||
+        !launcher.controls.TabFrame[0].visible)
+        return;
+    if (const auto arguments = launchArguments(launcher))
+        CreateShortcuts(launcher, *choice, name, *arguments);
+}
+
+void CreateShortcuts(Launcher& launcher, const ShortcutChoice& choice, const QString& name,
+                     const QString& arguments)
+{
+    const QString suffix = choice.IncludeMapInShortcut ? MapSuffixOf(launcher) : QString();
+    const QString fileName = ShortcutFileName(name, suffix);
+    const ShortcutFolders& folders = launcher.shortcutFolders;
+    const bool onDesktop =
+        choice.DesktopShortcut && CreateLink(launcher, folders.desktop, fileName, arguments);
+    if (choice.StartMenuShortcut)
+        CreateLink(launcher, folders.programs, fileName, arguments);
+    if (onDesktop)
+        RefreshDesktop();
+}
