@@ -108,10 +108,11 @@ FontForm::FontForm(Launcher& launcher, QWidget* parent)
 
 QListWidget* FontForm::addList(QBoxLayout* row, const QString& name, const QString& caption, int width)
 {
+    constexpr int height = 150;
     auto* list = new QListWidget;
     list->setObjectName(name);
     list->setAccessibleName(caption.trimmed().chopped(1));
-    list->setMinimumWidth(width);
+    list->setFixedSize(width, height);
     auto* column = new QVBoxLayout;
     column->addWidget(new QLabel(caption));
     column->addWidget(list);
