@@ -22,6 +22,7 @@
 #include <string>
 #include <sys/wait.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -95,17 +96,30 @@ public:
         }
     }
 
+    // The windows shown since the main window, the last one first.
+    std::vector<Window> laterWindows() const
+    {
+        std::vector<Window> windows;
+        while (XPending(display()) > 0) {
+            XEvent event;
+            XNextEvent(display(), &event);
+            if (event.type == MapNotify)
+                windows.insert(windows.begin(), event.xmap.window);
+        }
+        return windows;
+    }
+
     // What a click on the window's close button sends.
-    void requestClose(const MainWindow& window) const
+    void requestClose(Window window) const
     {
         XEvent event = {};
         event.xclient.type = ClientMessage;
-        event.xclient.window = window.id;
+        event.xclient.window = window;
         event.xclient.message_type = XInternAtom(display(), "WM_PROTOCOLS", False);
         event.xclient.format = 32;
         event.xclient.data.l[0] = static_cast<long>(XInternAtom(display(), "WM_DELETE_WINDOW", False));
         event.xclient.data.l[1] = CurrentTime;
-        XSendEvent(display(), window.id, False, NoEventMask, &event);
+        XSendEvent(display(), window, False, NoEventMask, &event);
         XFlush(display());
     }
 
@@ -162,7 +176,11 @@ void measure(const BareDisplay& display, char** arguments, pid_t& child)
 
     std::this_thread::sleep_for(idle);
     const long kilobytes = proportionalSetSize(child);
-    display.requestClose(window);
+    for (const Window dialog : display.laterWindows()) { // the tip of the day
+        display.requestClose(dialog);
+        std::this_thread::sleep_for(lookEvery * 200);
+    }
+    display.requestClose(window.id);
     const auto status = waitForEnd(child);
     if (status)
         child = -1;

@@ -27,6 +27,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -167,8 +168,17 @@ void MainForm::showFontForm()
 
 void MainForm::showTips()
 {
-    TipsForm(*m_launcher, this).exec();
-    refresh();
+    m_tipsWanted = true;
+}
+
+void MainForm::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (std::exchange(m_tipsWanted, false))
+        QTimer::singleShot(0, this, [this] {
+            TipsForm(*m_launcher, this).exec();
+            refresh();
+        });
 }
 
 void MainForm::showMusicForm(PlaylistEditor& editor)

@@ -36,7 +36,7 @@ public:
     void showIwadForm() override;
     void showTexForm() override;
     void showFontForm() override;
-    void showTips();
+    void showTips(); // as soon as the window is painted: nobody waits for it longer
     void showMusicForm(PlaylistEditor& editor) override;
     void copyText(const QString& text) override;
     int logicalDpi() const override { return logicalDpiX(); }
@@ -45,6 +45,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -61,6 +62,7 @@ private:
     TitleView* m_title = nullptr;
     QList<QWidget*> m_optionPages;  // those of the tabs after the first; each is filled when it is shown
     IwadForm* m_iwadForm = nullptr; // from its first use on
-    bool m_compact = false;         // as the window is sized
-    int m_heightBefore = 0;         // before the controls were written to the widgets
+    bool m_tipsWanted = false;
+    bool m_compact = false; // as the window is sized
+    int m_heightBefore = 0; // before the controls were written to the widgets
 };

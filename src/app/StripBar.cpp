@@ -8,10 +8,28 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpressionValidator>
 #include <QToolButton>
+#include <QValidator>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+class DigitsOnly : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int&) const override
+    {
+        const bool digits = std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+        return digits ? Acceptable : Invalid;
+    }
+};
+
+} // namespace
 
 StripBar::StripBar(Controls& controls, ControlBinder& binder, QWidget* parent) : QWidget(parent)
 {
@@ -108,7 +126,7 @@ QWidget* StripBar::lightLevel(Controls& controls, PageBinder& make)
 {
     QLineEdit* light = make.textBox(u"LightText"_s, controls.LightText, u"Light level"_s);
     light->setMaximumWidth(64);
-    light->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[0-9]*"_s), light));
+    light->setValidator(new DigitsOnly(light));
     return light;
 }
 
