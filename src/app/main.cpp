@@ -2,6 +2,7 @@
 #include "app/StartUp.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/FontWarmUp.h"
+#include "platform/HeapSettings.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemProcesses.h"
 #include "ui/PromptsView.h"
@@ -16,7 +17,7 @@
 
 namespace {
 
-// The title pictures need Qt's JPEG plugin; asking for that one loads no other.
+// The title pictures need Qt's JPEG plugin.
 bool canReadJpeg()
 {
     QByteArray start("\xFF\xD8\xFF");
@@ -28,6 +29,7 @@ bool canReadJpeg()
 
 int main(int argc, char** argv)
 {
+    KeepHeapSmall();
     const std::jthread fonts = WarmUpFonts();
     const QApplication application(argc, argv);
     // Both go on beside the launcher's load, which needs neither.
