@@ -67,7 +67,8 @@ void ShippedTextsTest::plainTexts()
     QFETCH(const QString, name);
     const QByteArray text = shipped(name);
     QVERIFY(!text.isEmpty());
-    QVERIFY(std::ranges::all_of(text, [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); }));
+    QVERIFY(
+        std::ranges::all_of(text, [](char c) { return c == '\n' || c == '\r' || (c >= ' ' && c <= '~'); }));
 }
 
 void ShippedTextsTest::links()
@@ -94,7 +95,7 @@ void ShippedTextsTest::engineSwitches()
                                          QRegularExpression::CaseInsensitiveOption);
     const QString help = QString::fromLatin1(shipped(u"VYK_Docs/Help/VYK_Cmdline.txt"_s));
     int count = 0;
-    for (const QString& line : help.split(u'\n')) {
+    for (const QString& line : help.split(u"\r\n"_s)) {
         for (auto found = name.globalMatch(line); found.hasNext(); ++count) {
             const QString text = found.next().captured();
             const EngineSwitch* known = FindEngineSwitch(text);
