@@ -202,6 +202,8 @@ void MainForm::beforeWrite()
     m_heightBefore = height();
     if (!layout())
         return;
+    // Pages come before others go: the window would grow to hold both.
+    layout()->setEnabled(false);
     UpdateCommandPreview(*m_launcher);
     const Controls& controls = m_launcher->controls;
     for (int page = 0; page < m_optionPages.size(); ++page)
@@ -241,6 +243,8 @@ void MainForm::buildOptionPage(int page)
 
 void MainForm::afterWrite()
 {
+    if (layout())
+        layout()->setEnabled(true);
     const WindowControl& form = m_launcher->controls.MainForm;
     if (windowTitle() != form.caption)
         setWindowTitle(form.caption);

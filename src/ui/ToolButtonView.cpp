@@ -9,13 +9,19 @@ constexpr std::array pictures{"install", "documentation", "shortcut",   "edit-lo
 
 } // namespace
 
-ToolButtonView::ToolButtonView(int tool, QWidget* parent) : QToolButton(parent)
+ToolButtonView::ToolButtonView(int tool, QWidget* parent) : QToolButton(parent), m_tool(tool)
 {
     constexpr QSize pictureSize(24, 24), buttonSize(32, 28);
-    const QLatin1StringView picture(pictures.at(static_cast<size_t>(tool)));
-    setIcon(QIcon(u":/toolbar/"_s + picture + u".png"_s));
     setIconSize(pictureSize);
     setFixedSize(buttonSize);
     setToolButtonStyle(Qt::ToolButtonIconOnly);
     setFocusPolicy(Qt::TabFocus); // a click leaves no focus mark
+}
+
+void ToolButtonView::showEvent(QShowEvent* event)
+{
+    if (icon().isNull()) // most tools are hidden at start-up, and their pictures cost time to read
+        setIcon(QIcon(u":/toolbar/"_s + QLatin1StringView(pictures.at(static_cast<size_t>(m_tool))) +
+                      u".png"_s));
+    QToolButton::showEvent(event);
 }

@@ -10,4 +10,10 @@ class ToolButtonView : public QToolButton
 public:
     // `tool` is the index of the tool in AuxButton.
     explicit ToolButtonView(int tool, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    int m_tool;
 };

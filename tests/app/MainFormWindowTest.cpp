@@ -231,6 +231,9 @@ void MainFormWindowTest::optionPagesComeWhenTheyAreShown()
     const auto* page = find<QWidget>(u"OptFrame_0"_s);
     find<QAbstractButton>(u"OptionTabs_1"_s)->click();
     QCOMPARE(find<QWidget>(u"OptFrame_0"_s), page);
+    find<QAbstractButton>(u"OptionTabs_0"_s)->click();
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->size(), size);
 }
 
 void MainFormWindowTest::theKeyboardGoesFromTheTabsThroughThePage()
