@@ -72,7 +72,10 @@ ReadResult ReadStoredSettings(Launcher& launcher)
         WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"texpath.vyk"_s));
     const QString archives =
         WithSlashes(firstLineOf(files, launcher.paths.LaunchDataPath + u"archives.vyk"_s));
-    if (!archives.isEmpty())
+    // The installation's own folder is no other place once the installation was moved.
+    const bool movedAway = SameName(FileNameOf(archives), FileNameOf(launcher.paths.ArchivesPath)) &&
+                           !files.folderExists(archives);
+    if (!archives.isEmpty() && !movedAway)
         launcher.paths.ArchivesPath = archives;
     try {
         if (files.fileExists(ConfigPath(launcher)))

@@ -1,5 +1,6 @@
 #include "app/FontChoice.h"
 #include "app/MainWindowLoad.h"
+#include "app/SettingsLoad.h"
 #include "app/Tips.h"
 #include "tests/support/LauncherFixture.h"
 
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void logs();
     void dialogs();
     void zipFolder();
+    void movedInstallation();
     void zipFolderTexts_data();
     void zipFolderTexts();
     void tips();
@@ -95,6 +97,17 @@ void ToolbarTest::zipFolder()
     f.prompts.expectFile({});
     f.click(ZipFolder);
     QCOMPARE(f.launcher.paths.ArchivesPath, f.path(u"VYKArchives"_s));
+}
+
+void ToolbarTest::movedInstallation()
+{
+    Fixture f;
+    f.installation.add(u"VYKLaunch/Data/archives.vyk"_s, "/where/it/was/VYKArchives\r\n");
+    ReadStoredSettings(f.launcher);
+    QCOMPARE(f.launcher.paths.ArchivesPath, f.path(u"VYKArchives"_s));
+    f.installation.add(u"VYKLaunch/Data/archives.vyk"_s, "/a/drive/that/is/off\r\n");
+    ReadStoredSettings(f.launcher);
+    QCOMPARE(f.launcher.paths.ArchivesPath, u"/a/drive/that/is/off"_s);
 }
 
 void ToolbarTest::zipFolderTexts_data()
