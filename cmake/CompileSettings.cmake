@@ -33,6 +33,13 @@ else()
     target_compile_definitions(compile_settings INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 
+if(WIN32)
+    # Programs that need nothing beside them; the names of version 10's interfaces, in their 16-bit form.
+    target_link_options(compile_settings INTERFACE -static)
+    target_compile_definitions(compile_settings INTERFACE _WIN32_WINNT=0x0A00 UNICODE _UNICODE NOMINMAX
+        LIBARCHIVE_STATIC) # here, so that every file shares the precompiled headers
+endif()
+
 # Qt without its silent conversions: every text says which encoding it comes from.
 add_library(strict_qt INTERFACE)
 target_compile_definitions(strict_qt INTERFACE

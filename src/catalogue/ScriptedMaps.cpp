@@ -1,5 +1,6 @@
 #include "catalogue/ScriptedMaps.h"
 
+#include "platform/DateOrder.h"
 #include "platform/Paths.h"
 
 #include <algorithm>
@@ -34,10 +35,12 @@ const struct
 constexpr size_t modelFolders = 12;
 static_assert(std::size(scriptedMaps) == 13);
 
-// Older files of the maps and of the add-on do not work with this version of the engine.
+// Older files of the maps and of the add-on do not work with this version of the engine. The date is known as
+// "10/08/2020", whatever that is to the user.
 QDateTime oldestFile()
 {
-    return {QDate(2020, 8, 10), QTime(10, 10, 10)};
+    const QDate date = IsDayBeforeMonth() ? QDate(2020, 8, 10) : QDate(2020, 10, 8);
+    return {date, QTime(10, 10, 10)};
 }
 
 bool isMapWith(Need need, const QString& path)

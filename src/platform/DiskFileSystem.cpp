@@ -3,13 +3,15 @@
 #include "platform/FolderScan.h"
 #include "platform/FolderTree.h"
 #include "platform/Paths.h"
+#include "platform/RemovalRights.h"
+#include "platform/Spelling.h"
+#include "platform/SystemError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <functional>
 
@@ -19,43 +21,24 @@ namespace {
 
 using Kind = FileError::Kind;
 
-Kind KindOf(int error)
-{
-    switch (error) {
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return Kind::PermissionDenied;
-    case ENOENT:
-        return Kind::NotFound;
-    case EEXIST:
-    case ENOTEMPTY:
-        return Kind::Exists;
-    case EBUSY:
-    case ETXTBSY:
-        return Kind::InUse;
-    default:
-        return Kind::Other;
-    }
-}
-
-// Qt's own error classes keep little of the reason, so errno decides; the caller clears it before.
+// Qt's own error classes keep little of the reason, so the system's number decides; the caller clears it
+// before.
 [[noreturn]] void Fail(const QString& path, const QFileDevice& file)
 {
-    const Kind kind = KindOf(errno);
+    const Kind kind = KindOfSystemError(SystemError());
     const bool refused = kind == Kind::Other && file.error() == QFileDevice::PermissionsError;
     throw FileError(refused ? Kind::PermissionDenied : kind, path, file.errorString());
 }
 
 [[noreturn]] void Fail(const QString& path)
 {
-    const int error = errno;
-    throw FileError(KindOf(error), path, qt_error_string(error));
+    const int error = SystemError();
+    throw FileError(KindOfSystemError(error), path, qt_error_string(error));
 }
 
 [[noreturn]] void Fail(const QString& path, const std::error_code& error)
 {
-    throw FileError(KindOf(error.value()), path, QString::fromStdString(error.message()));
+    throw FileError(KindOfSystemError(error), path, QString::fromStdString(error.message()));
 }
 
 std::filesystem::path NativeOf(const QString& path)
@@ -70,13 +53,6 @@ FolderEntry::Kind KindOf(const QFileInfo& entry)
 }
 
 // Ascending without regard to case; the exact spelling decides between names that differ in nothing else.
-bool Before(const QString& a, const QString& b)
-{
-    const int order = a.compare(b, Qt::CaseInsensitive);
-    return order != 0 ? order < 0 : a < b;
-}
-
-// In the order of Before, with every name folded once.
 QStringList Sorted(const QStringList& names)
 {
     std::vector<std::pair<QString, QString>> folded;
@@ -101,17 +77,6 @@ bool IsThere(const QString& path)
 QString Joined(const QString& folder, const QString& name)
 {
     return folder.isEmpty() || folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
-}
-
-// The name in `folder` that differs from `name` in case alone; empty when there is none.
-QString OtherSpelling(const QString& folder, const QString& name)
-{
-    QString best;
-    const QStringList names = EntriesOf(folder, EntryKind::Any);
-    for (const QString& candidate : names)
-        if (SameName(candidate, name) && (best.isEmpty() || Before(candidate, best)))
-            best = candidate;
-    return best;
 }
 
 struct Found
@@ -150,6 +115,7 @@ Found Find(const QString& wanted)
             path = Joined(path, missing.takeLast());
     }
     const bool whole = missing.isEmpty();
+    path = SpelledAsOnDisk(path);
     while (!missing.isEmpty())
         path = Joined(path, missing.takeLast());
     return {path, whole};
@@ -201,18 +167,18 @@ void Replace(const QString& wanted, const std::function<void(QSaveFile&)>& fill)
     RequireWritable(path);
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
-    errno = 0;
+    ClearSystemError();
     if (!file.open(QIODevice::WriteOnly))
         Fail(path, file);
     fill(file);
-    errno = 0;
+    ClearSystemError();
     if (!file.commit())
         Fail(path, file);
 }
 
 void Append(QFileDevice& file, const QByteArray& bytes)
 {
-    errno = 0;
+    ClearSystemError();
     if (file.write(bytes) != bytes.size())
         Fail(file.fileName(), file);
 }
@@ -226,14 +192,14 @@ void SetTime(QFileDevice& file, const QDateTime& modified)
 
 void OpenForReading(QFile& file)
 {
-    errno = 0;
+    ClearSystemError();
     if (!file.open(QIODevice::ReadOnly))
         Fail(file.fileName(), file);
 }
 
 QByteArray ReadSome(QFile& file, qint64 size)
 {
-    errno = 0;
+    ClearSystemError();
     const QByteArray bytes = file.read(size);
     if (file.error() != QFileDevice::NoError)
         Fail(file.fileName(), file);
@@ -336,7 +302,7 @@ void DiskFileSystem::overwrite(const QString& path, const QByteArray& bytes)
     const QString target = FindTarget(path).path;
     RequireWritable(target);
     QFile file(target);
-    errno = 0;
+    ClearSystemError();
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
         Fail(target, file);
 }
@@ -362,14 +328,14 @@ void DiskFileSystem::create(const QString& path, const std::function<QByteArray(
         QFile::remove(target); // what it leads to is another file
     RequireWritable(target);
     QFile file(target);
-    errno = 0;
+    ClearSystemError();
     if (!file.open(QIODevice::WriteOnly))
         Fail(target, file);
     try {
         for (QByteArray piece = next(); !piece.isEmpty(); piece = next())
             Append(file, piece);
         SetTime(file, modified);
-        errno = 0;
+        ClearSystemError();
         file.close();
         if (file.error() != QFileDevice::NoError)
             Fail(target, file);
@@ -407,8 +373,14 @@ void DiskFileSystem::remove(const QString& path)
     if (const QFileInfo entry(found.path); entry.isDir() && !entry.isSymLink())
         throw FileError(Kind::Other, found.path, u"not a file"_s);
     QFile file(found.path);
-    errno = 0;
-    if (!file.remove())
+    ClearSystemError();
+    bool removed = file.remove();
+    if (!removed) {
+        AllowRemoval(NativeOf(found.path));
+        ClearSystemError();
+        removed = file.remove();
+    }
+    if (!removed)
         Fail(found.path, file);
 }
 
@@ -417,7 +389,7 @@ void DiskFileSystem::createFolder(const QString& path)
     const Found found = FindTarget(path);
     if (found.whole && !QFileInfo(found.path).isDir())
         throw FileError(Kind::Exists, found.path, u"a file has the folder's name"_s);
-    errno = 0;
+    ClearSystemError();
     if (!found.whole && !QDir().mkpath(found.path))
         Fail(found.path);
 }
@@ -432,8 +404,8 @@ void DiskFileSystem::removeTree(const QString& path)
     std::error_code error;
     const std::filesystem::path top = NativeOf(found.path);
     std::filesystem::remove_all(top, error);
-    if (error && KindOf(error.value()) == Kind::PermissionDenied && !QFileInfo(found.path).isSymLink()) {
-        MakeFoldersWritable(top);
+    if (error && KindOfSystemError(error) == Kind::PermissionDenied && !QFileInfo(found.path).isSymLink()) {
+        AllowRemovalOfTree(top);
         std::filesystem::remove_all(top, error);
     }
     if (error)
@@ -443,7 +415,7 @@ void DiskFileSystem::removeTree(const QString& path)
 void DiskFileSystem::removeFolder(const QString& path)
 {
     const Found found = FindTarget(path);
-    errno = 0;
+    ClearSystemError();
     if (!QDir().rmdir(found.path))
         Fail(found.path);
 }

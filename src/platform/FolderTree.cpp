@@ -1,5 +1,7 @@
 #include "platform/FolderTree.h"
 
+#include "platform/RemovalRights.h"
+
 namespace {
 
 // Calls `visit` with every entry below `top`, a folder before what is in it.
@@ -37,17 +39,8 @@ TreeContents ContentsOf(const std::filesystem::path& top)
     return sum;
 }
 
-void MakeFoldersWritable(const std::filesystem::path& top)
+void AllowRemovalOfTree(const std::filesystem::path& top)
 {
-    using std::filesystem::perms;
-    const auto allow = [](const std::filesystem::path& folder) {
-        std::error_code error;
-        permissions(folder, perms::owner_all, std::filesystem::perm_options::add, error);
-    };
-    allow(top);
-    forEachBelow(top, [&allow](const std::filesystem::directory_entry& entry) {
-        std::error_code error;
-        if (is_directory(entry.symlink_status(error)))
-            allow(entry.path());
-    });
+    AllowRemoval(top);
+    forEachBelow(top, [](const std::filesystem::directory_entry& entry) { AllowRemoval(entry.path()); });
 }

@@ -9,6 +9,5 @@
 // FileSystem::contents of a path that exists.
 TreeContents ContentsOf(const std::filesystem::path& top);
 
-// Gives the owner every right to the folders, as far as the system lets: a read-only folder keeps what is in
-// it from being removed.
-void MakeFoldersWritable(const std::filesystem::path& top);
+// AllowRemoval for all of it.
+void AllowRemovalOfTree(const std::filesystem::path& top);

@@ -1,13 +1,14 @@
 #include "platform/SystemProcesses.h"
 
 #include "platform/Paths.h"
+#include "platform/ProgramArguments.h"
+#include "platform/SystemError.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QOperatingSystemVersion>
 #include <QProcess>
 #include <QStandardPaths>
-#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,13 @@ QString ErrorNumber(const QString& message)
     return message;
 }
 
+void prepare(QProcess& process, const Command& command, const QString& commandLine)
+{
+    process.setProgram(command.program);
+    SetArguments(process, command.arguments, commandLine);
+    process.setWorkingDirectory(command.folder);
+}
+
 } // namespace
 
 Captured SystemProcesses::capture(const QString& commandLine, const QString& folder)
@@ -52,8 +60,8 @@ Captured SystemProcesses::capture(const QString& commandLine, const QString& fol
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setWorkingDirectory(command->folder);
-    process.start(command->program, command->arguments);
+    prepare(process, *command, commandLine);
+    process.start();
     if (!process.waitForStarted(-1))
         return {false, ErrorNumber(process.errorString()), {}};
     process.waitForFinished(-1);
@@ -63,7 +71,11 @@ Captured SystemProcesses::capture(const QString& commandLine, const QString& fol
 bool SystemProcesses::start(const QString& commandLine, const QString& folder)
 {
     const auto command = Resolve(m_files, commandLine, folder);
-    return command && QProcess::startDetached(command->program, command->arguments, command->folder);
+    if (!command)
+        return false;
+    QProcess process;
+    prepare(process, *command, commandLine);
+    return process.startDetached();
 }
 
 std::expected<Command, int> ResolveCommand(const FileSystem& files, const QString& name,
@@ -71,14 +83,14 @@ std::expected<Command, int> ResolveCommand(const FileSystem& files, const QStrin
 {
     const QString program = FindProgram(files, name, folder);
     if (program.isEmpty() || !files.folderExists(folder))
-        return std::unexpected(ENOENT);
+        return std::unexpected(noSuchProgram);
     const QString actualFolder = files.actualPath(folder);
     const bool onWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
     if (onWindows || !IsWindowsProgram(files, program))
         return Command{program, arguments, actualFolder};
     const QString wine = QStandardPaths::findExecutable(u"wine"_s);
     if (wine.isEmpty())
-        return std::unexpected(ENOEXEC);
+        return std::unexpected(noProgram);
     return Command{wine, QStringList(program) + arguments, actualFolder};
 }
 
@@ -91,12 +103,15 @@ QString FindProgram(const FileSystem& files, const QString& name, const QString&
     QStringList spellings{path, path + exe};
     if (EndsWith(path, exe))
         spellings += path.chopped(exe.size());
+    QString windowsProgram; // where this is not Windows, one of its own goes before
     for (const QString& spelling : std::as_const(spellings)) {
         if (!files.fileExists(spelling))
             continue;
         const QString actual = files.actualPath(spelling);
-        if (QFileInfo(actual).isExecutable() || IsWindowsProgram(files, actual))
+        if (IsWindowsProgram(files, actual))
+            windowsProgram = windowsProgram.isEmpty() ? actual : windowsProgram;
+        else if (QFileInfo(actual).isExecutable())
             return actual;
     }
-    return {};
+    return windowsProgram;
 }

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-WadReport checkWad(const std::string& path)
+WadReport checkWad(const std::filesystem::path& path)
 {
     const auto found = readWadDirectory(path);
     const WadDirectory wad = found.value_or(WadDirectory{{.type = "none", .lumps = 0}, {}});

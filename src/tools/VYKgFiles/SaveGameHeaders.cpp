@@ -4,7 +4,6 @@
 #include "tools/wadreader/RegularFile.h"
 
 #include <array>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -48,7 +47,7 @@ std::string readDescription(const RegularFile& file)
 }
 
 // The savegame's line of the report; empty where there is no such file.
-std::string line(char slot, const std::string& path)
+std::string line(char slot, const std::filesystem::path& path)
 {
     const RegularFile file = openRegularFile(path);
     if (!file)
@@ -60,7 +59,7 @@ std::string line(char slot, const std::string& path)
 std::string folderReport(const std::filesystem::path& folder)
 {
     namespace fs = std::filesystem;
-    std::map<char, std::string> paths;
+    std::map<char, fs::path> paths;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         const std::string name = entry->path().filename().string();
@@ -70,7 +69,7 @@ std::string folderReport(const std::filesystem::path& folder)
         // Of names that differ in case only, the one that the engine itself writes counts.
         const bool exact = name.starts_with(namePrefix) && name.ends_with(nameSuffix);
         if (exact || !paths.contains(*slot))
-            paths[*slot] = entry->path().string();
+            paths[*slot] = entry->path();
     }
     std::string report;
     for (const auto& [slot, path] : paths)
@@ -80,11 +79,11 @@ std::string folderReport(const std::filesystem::path& folder)
 
 } // namespace
 
-std::string saveGameHeaders(const std::string& target)
+std::string saveGameHeaders(const std::filesystem::path& target)
 {
     std::error_code error;
     if (std::filesystem::is_directory(target, error))
         return folderReport(target);
-    const auto slot = slotOf(std::filesystem::path(target).filename().string());
+    const auto slot = slotOf(target.filename().string());
     return slot ? line(*slot, target) : std::string();
 }

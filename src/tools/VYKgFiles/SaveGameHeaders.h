@@ -1,6 +1,7 @@
 // The GETSAVEHDRS report: the slots and descriptions of savegames.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 // Takes a folder, whose savegames (KeldraxSav<digit>.vyksg, in any case) are reported in slot order,
@@ -8,4 +9,4 @@
 // right after it the description, which is the text of up to 24 bytes at the head of the file. A
 // field that holds a comma stands in double quotes; double quotes in a description become
 // apostrophes. Where there is no savegame the report is empty.
-std::string saveGameHeaders(const std::string& target);
+std::string saveGameHeaders(const std::filesystem::path& target);

@@ -8,6 +8,7 @@
 #include "tools/wadreader/WadDirectory.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QLockFile>
 #include <QProcess>
 #include <cstdio>
@@ -21,7 +22,7 @@ constexpr int publishInterval = 1000; // milliseconds
 
 int MapsOf(const QString& path)
 {
-    const auto directory = readWadDirectory(QFile::encodeName(path).toStdString());
+    const auto directory = readWadDirectory(QFileInfo(path).filesystemFilePath());
     return directory ? static_cast<int>(directory->maps.size()) : 0;
 }
 

@@ -1,9 +1,8 @@
 #include "tools/wadreader/RegularFile.h"
 
-#include <filesystem>
 #include <system_error>
 
-RegularFile openRegularFile(const std::string& path)
+RegularFile openRegularFile(const std::filesystem::path& path)
 {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
@@ -12,7 +11,7 @@ RegularFile openRegularFile(const std::string& path)
     file.size = std::filesystem::file_size(path, error);
     if (error)
         return {};
-    file.stream.reset(std::fopen(path.c_str(), "rb"));
+    file.stream.reset(openForReading(path));
     if (file.stream)
         std::setvbuf(file.stream.get(), nullptr, _IONBF, 0);
     return file;

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
-#include <string>
 
 struct CloseFile
 {
@@ -19,6 +19,9 @@ struct RegularFile
     explicit operator bool() const { return stream != nullptr; }
 };
 
-// Opens `path` (in the system's file name encoding). What is missing, unreadable or no regular file
+// Opens `path`. What is missing, unreadable or no regular file
 // gives an empty RegularFile; a pipe or a device is never opened, as that could wait for ever.
-RegularFile openRegularFile(const std::string& path);
+RegularFile openRegularFile(const std::filesystem::path& path);
+
+// The system's own opening of a file for reading its bytes; nullptr on failure.
+std::FILE* openForReading(const std::filesystem::path& path);

@@ -68,7 +68,7 @@ std::optional<std::size_t> mapNumber(std::string_view name)
 
 } // namespace
 
-std::optional<WadHeader> visitLumpNames(const std::string& path, const LumpVisitor& visit)
+std::optional<WadHeader> visitLumpNames(const std::filesystem::path& path, const LumpVisitor& visit)
 {
     const RegularFile file = openRegularFile(path);
     auto header = readHeader(file);
@@ -90,7 +90,7 @@ std::optional<WadHeader> visitLumpNames(const std::string& path, const LumpVisit
     return header;
 }
 
-std::optional<WadDirectory> readWadDirectory(const std::string& path)
+std::optional<WadDirectory> readWadDirectory(const std::filesystem::path& path)
 {
     WadDirectory directory;
     std::bitset<episodeMaps + numberedMaps> seen;

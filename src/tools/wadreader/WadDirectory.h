@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -26,9 +27,9 @@ struct WadDirectory
 using LumpVisitor = std::function<void(std::string_view name)>;
 
 // Calls `visit` with every lump name in directory order; memory use does not grow with the directory.
-// Returns nothing when `path` (in the system's file name encoding) is missing, no regular file, no
+// Returns nothing when `path` is missing, no regular file, no
 // WAD, or does not hold its whole directory. Throws nothing of its own.
-std::optional<WadHeader> visitLumpNames(const std::string& path, const LumpVisitor& visit);
+std::optional<WadHeader> visitLumpNames(const std::filesystem::path& path, const LumpVisitor& visit);
 
 // The same, keeping the names of the maps.
-std::optional<WadDirectory> readWadDirectory(const std::string& path);
+std::optional<WadDirectory> readWadDirectory(const std::filesystem::path& path);

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QProcess>
+
+// Gives the program that `process` will start its arguments: those of the command line after its first,
+// already split, or the text as it stands where a program receives a text.
+void SetArguments(QProcess& process, const QStringList& arguments, const QString& commandLine);
