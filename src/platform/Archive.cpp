@@ -1,6 +1,7 @@
 #include "platform/Archive.h"
 
 #include "platform/FileNames.h"
+#include "platform/MemberName.h"
 
 #include <QFile>
 #include <QSet>
@@ -50,6 +51,7 @@ public:
         // The directory at the file's end alone says what an archive holds: one that was cut off has none.
         archive_read_support_format_zip_seekable(m_archive);
         archive_read_set_passphrase_callback(m_archive, this, &Reader::passphrase);
+        PrepareMemberNames(m_archive);
         goOn();
         require(archive_read_open_fd(m_archive, m_file.handle(), blockSize));
         archive_entry* entry = nullptr;
@@ -68,10 +70,10 @@ public:
 private:
     void extractMember(archive_entry* entry)
     {
-        const char* rawName = archive_entry_pathname(entry);
-        const QString name = UsableNameOf(DecodedMemberName(rawName ? QByteArray(rawName) : QByteArray()));
+        const QString member = MemberNameOf(entry);
+        const QString name = UsableNameOf(member);
         const bool isFile = archive_entry_filetype(entry) == AE_IFREG && !archive_entry_hardlink(entry);
-        if (!isFile || name.isEmpty() || isFolderName(rawName))
+        if (!isFile || name.isEmpty() || member.endsWith(u'/'))
             return;
         const QDateTime modified = archive_entry_mtime_is_set(entry)
                                        ? QDateTime::fromSecsSinceEpoch(archive_entry_mtime(entry))
@@ -83,8 +85,6 @@ private:
         m_files.create(
             m_folder + name, [this] { return nextPiece(); }, modified);
     }
-
-    static bool isFolderName(const char* name) { return QByteArray(name).endsWith('/'); }
 
     // The bytes stay libarchive's until the next call.
     QByteArray nextPiece()

@@ -86,3 +86,17 @@ QString DecodedMemberName(const QByteArray& bytes)
     }
     return name;
 }
+
+std::optional<QByteArray> CodePage437Of(const QString& name)
+{
+    constexpr char16_t firstOther = 0x80;
+    QByteArray bytes;
+    for (const QChar character : name) {
+        const auto other = codePage437.indexOf(character);
+        if (character.unicode() >= firstOther && other < 0)
+            return std::nullopt;
+        bytes +=
+            static_cast<char>(character.unicode() < firstOther ? character.unicode() : firstOther + other);
+    }
+    return bytes;
+}

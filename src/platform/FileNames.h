@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 // Names of files and folders that every system takes.
 
 // True for a name without separators, drive, wildcards and control characters that is no device's name, is
@@ -15,3 +17,6 @@ QString UsableNameOf(const QString& memberName);
 
 // A member's name as an archive stores it without saying how: UTF-8 if it is that, else code page 437.
 QString DecodedMemberName(const QByteArray& bytes);
+
+// The bytes that are the name in code page 437; nothing when they cannot say it.
+std::optional<QByteArray> CodePage437Of(const QString& name);

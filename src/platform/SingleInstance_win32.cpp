@@ -55,11 +55,8 @@ struct SingleInstance::System
         auto* system = reinterpret_cast<System*>(GetWindowLongPtrW(window, GWLP_USERDATA));
         if (message != askForWindow || !system)
             return DefWindowProcW(window, message, wide, with);
-        // The one that asks waits for the answer, not for what the launcher does then.
-        QTimer::singleShot(0, &system->retry, [system] {
-            const auto run = system->activated; // it may replace itself through `claim`
-            run();
-        });
+        const auto run = system->activated; // it may replace itself through `claim`
+        run();
         return answered;
     }
 

@@ -21,10 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Stands in for the engine: writes its arguments, one in a line, and is done.
-const QByteArray engine =
-    "#!/bin/sh\nprintf '%s\\n' \"$@\" > arguments.new\nmv arguments.new arguments.txt\n";
-
 QStringList mapNames(int count)
 {
     QStringList names;
@@ -92,9 +88,8 @@ void MainFormWindowTest::init()
 {
     m_installation = std::make_unique<TemporaryInstallation>();
     m_installation->makeComplete();
-    m_installation->addProgram(u"Bin/Keldrax"_s, engine);
-    QFile::remove(m_installation->path(u"Bin/VYKgFiles"_s));
-    QVERIFY(QFile::copy(QStringLiteral(VYKGFILES_PROGRAM), m_installation->path(u"Bin/VYKgFiles"_s)));
+    m_installation->addBuilt(u"Bin/Keldrax"_s, RECORDER_PROGRAM);
+    m_installation->addBuilt(u"Bin/VYKgFiles"_s, VYKGFILES_PROGRAM);
     m_installation->add(u"Data/Doom2.wad"_s, TemporaryInstallation::wad("IWAD", mapNames(32)));
     m_installation->add(u"Data/DOOM.WAD"_s, TemporaryInstallation::wad("IWAD", {u"E1M1"_s, u"E2M3"_s}));
     m_installation->add(u"UserSG/doom2/savegame/KeldraxSav3.vyksg"_s,

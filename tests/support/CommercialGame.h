@@ -7,8 +7,6 @@
 #include "platform/SystemProcesses.h"
 #include "tests/support/LauncherFixture.h"
 
-#include <QFile>
-
 // A launcher with the IWADs of Doom and Doom II in the installation's own folder and the real game-file
 // tool, showing the Doom games with Doom II selected and the skill at "Start game from New".
 class CommercialGame : public LauncherFixture
@@ -16,9 +14,7 @@ class CommercialGame : public LauncherFixture
 public:
     explicit CommercialGame(const Settings& settings = DefaultSettings())
     {
-        const QString tool = path(QStringLiteral("Bin/VYKgFiles"));
-        if (!QFile::remove(tool) || !QFile::link(QStringLiteral(VYKGFILES_PROGRAM), tool))
-            qFatal("the game-file tool cannot be put in its place");
+        installation.addBuilt(QStringLiteral("Bin/VYKgFiles"), VYKGFILES_PROGRAM);
         processes.delegate = &programs;
         addWad(QStringLiteral("Iwads/Doom.wad"), {QStringLiteral("E1M1"), QStringLiteral("E3M2")});
         addWad(QStringLiteral("Iwads/Doom2.wad"),

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 #include <algorithm>
+#include <filesystem>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +47,17 @@ void TemporaryInstallation::addProgram(const QString& relativePath, const QByteA
     QFile file(path(relativePath));
     Require(file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther),
             relativePath);
+}
+
+void TemporaryInstallation::addBuilt(const QString& relativePath, const char* program)
+{
+    const QFileInfo source(QString::fromUtf8(program));
+    const QFileInfo target(path(relativePath + QStringLiteral(PROGRAM_ENDING)));
+    addFolder(QFileInfo(relativePath).path());
+    QFile::remove(path(relativePath));
+    std::error_code error; // another disk takes a copy
+    std::filesystem::create_hard_link(source.filesystemFilePath(), target.filesystemFilePath(), error);
+    Require(!error || QFile::copy(source.filePath(), target.filePath()), relativePath);
 }
 
 void TemporaryInstallation::addFolder(const QString& relativePath)

@@ -19,6 +19,8 @@ public:
     void add(const QString& relativePath, const QByteArray& bytes = {});
     // The same, for a file that can be started.
     void addProgram(const QString& relativePath, const QByteArray& bytes = {});
+    // A program that was built for the tests, under the name that the system's programs have.
+    void addBuilt(const QString& relativePath, const char* program);
     void addFolder(const QString& relativePath);
 
     // The spelling counts in both.

@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-class EngineAdapterTest : public QObject
+class EngineAdapterPosixTest : public QObject
 {
     Q_OBJECT
 
@@ -147,5 +147,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(EngineAdapterTest)
-#include "EngineAdapterTest.moc"
+QTEST_GUILESS_MAIN(EngineAdapterPosixTest)
+#include "EngineAdapterPosixTest.moc"

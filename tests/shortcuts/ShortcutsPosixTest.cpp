@@ -47,7 +47,7 @@ QString saidBy(const QString& program, const QStringList& arguments, bool& found
 
 } // namespace
 
-class ShortcutsTest : public QObject
+class ShortcutsPosixTest : public QObject
 {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void foldersOfTheUser();
 };
 
-void ShortcutsTest::names_data()
+void ShortcutsPosixTest::names_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("suffix");
@@ -81,14 +81,14 @@ void ShortcutsTest::names_data()
     QTest::newRow("no capital") << u"ßA"_s << QString() << u"ßa"_s;
 }
 
-void ShortcutsTest::names()
+void ShortcutsPosixTest::names()
 {
     QFETCH(QString, name);
     QFETCH(QString, suffix);
     QTEST(ShortcutFileName(name, suffix), "file");
 }
 
-void ShortcutsTest::labels()
+void ShortcutsPosixTest::labels()
 {
     LauncherFixture game;
     Launcher& launcher = game.launcher;
@@ -108,7 +108,7 @@ void ShortcutsTest::labels()
     QCOMPARE(GetShortcutName(launcher), u"Plutonia Experiment"_s);
 }
 
-void ShortcutsTest::aDoomGameOnBothPlaces()
+void ShortcutsPosixTest::aDoomGameOnBothPlaces()
 {
     const QStringList withMap{u"Doom2 - Map07.desktop"_s, u"Doom2 - Map07.lnk"_s};
     CommercialGame game;
@@ -141,7 +141,7 @@ void ShortcutsTest::aDoomGameOnBothPlaces()
              (QStringList{withMap.first(), withMap.last(), u"Doom2.desktop"_s, u"Doom2.lnk"_s}));
 }
 
-void ShortcutsTest::nothingIsMade()
+void ShortcutsPosixTest::nothingIsMade()
 {
     CommercialGame game;
     const QByteArray wad = TemporaryInstallation::wad("PWAD", {u"MAP01"_s});
@@ -162,7 +162,7 @@ void ShortcutsTest::nothingIsMade()
     QVERIFY(!game.launcher.launch.ShortcutMode);
 }
 
-void ShortcutsTest::gamesOfFiles()
+void ShortcutsPosixTest::gamesOfFiles()
 {
     CommercialGame game;
     game.addWad(u"VYKGames/HELL/Gwads/Level1.wad"_s, {u"MAP01"_s});
@@ -180,7 +180,7 @@ void ShortcutsTest::gamesOfFiles()
     QCOMPARE(madeIn(game, menu).size(), 2);
 }
 
-void ShortcutsTest::aFolderThatCannotBeWritten()
+void ShortcutsPosixTest::aFolderThatCannotBeWritten()
 {
     CommercialGame game;
     game.files.failOn(u"Desktop/"_s, FileError::Kind::PermissionDenied);
@@ -201,7 +201,7 @@ void ShortcutsTest::aFolderThatCannotBeWritten()
 }
 
 // The desktop entry starts what a launch would: through Wine, or the native program that lies beside.
-void ShortcutsTest::aWindowsEngine()
+void ShortcutsPosixTest::aWindowsEngine()
 {
     CommercialGame game;
     game.installation.add(u"Bin/Keldrax.exe"_s, "MZ");
@@ -219,7 +219,7 @@ void ShortcutsTest::aWindowsEngine()
     QCOMPARE(program(), game.path(u"path/wine"_s));
 }
 
-void ShortcutsTest::hostileNames_data()
+void ShortcutsPosixTest::hostileNames_data()
 {
     QTest::addColumn<QString>("root");
     QTest::addColumn<QString>("game");
@@ -238,7 +238,7 @@ void ShortcutsTest::hostileNames_data()
 }
 
 // Whatever names hold, both files start the engine with the arguments of a launch.
-void ShortcutsTest::hostileNames()
+void ShortcutsPosixTest::hostileNames()
 {
     QFETCH(QString, root);
     QFETCH(QString, game);
@@ -299,7 +299,7 @@ void ShortcutsTest::hostileNames()
                  qPrintable(property.key + u'\n' + link));
 }
 
-void ShortcutsTest::deletion_data()
+void ShortcutsPosixTest::deletion_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("gone");
@@ -311,7 +311,7 @@ void ShortcutsTest::deletion_data()
     QTest::newRow("a letter that changes") << u"DİS"_s << QStringList{turkish};
 }
 
-void ShortcutsTest::deletion()
+void ShortcutsPosixTest::deletion()
 {
     QFETCH(QString, name);
     QFETCH(QStringList, gone);
@@ -339,7 +339,7 @@ void ShortcutsTest::deletion()
 
 // A user without a desktop, by the system's rule one whose desktop is the home folder, has the shortcuts in
 // the installation.
-void ShortcutsTest::foldersOfTheUser()
+void ShortcutsPosixTest::foldersOfTheUser()
 {
     TemporaryInstallation home;
     const std::pair<const char*, QString> variables[] = {
@@ -363,5 +363,5 @@ void ShortcutsTest::foldersOfTheUser()
     QCOMPARE(without.desktop, u"/games/Keldrax Shortcuts"_s);
 }
 
-QTEST_GUILESS_MAIN(ShortcutsTest)
-#include "ShortcutsTest.moc"
+QTEST_GUILESS_MAIN(ShortcutsPosixTest)
+#include "ShortcutsPosixTest.moc"
