@@ -1,9 +1,11 @@
 #include "platform/DiskFileSystem.h"
 
+#include "platform/EntryStatus.h"
 #include "platform/FolderScan.h"
 #include "platform/FolderTree.h"
 #include "platform/Paths.h"
 #include "platform/RemovalRights.h"
+#include "platform/Rename.h"
 #include "platform/Spelling.h"
 #include "platform/SystemError.h"
 
@@ -46,10 +48,10 @@ std::filesystem::path NativeOf(const QString& path)
     return QFileInfo(path).filesystemFilePath();
 }
 
-FolderEntry::Kind KindOf(const QFileInfo& entry)
+FolderEntry::Kind KindOf(const EntryStatus& entry)
 {
     using enum FolderEntry::Kind;
-    return entry.isSymLink() ? Link : entry.isDir() ? Folder : entry.isFile() ? File : Other;
+    return entry.isLink ? Link : entry.isFolder ? Folder : entry.isFile ? File : Other;
 }
 
 // Ascending without regard to case; the exact spelling decides between names that differ in nothing else.
@@ -65,13 +67,6 @@ QStringList Sorted(const QStringList& names)
     for (const auto& [key, name] : folded)
         sorted << name;
     return sorted;
-}
-
-// A link that leads nowhere is there too: it can be removed, and it keeps a folder from being removed.
-bool IsThere(const QString& path)
-{
-    const QFileInfo entry(path);
-    return entry.exists() || entry.isSymLink();
 }
 
 QString Joined(const QString& folder, const QString& name)
@@ -100,7 +95,7 @@ Found Find(const QString& wanted)
         path.chop(1);
 
     QStringList missing; // the deepest first
-    while (!path.isEmpty() && !IsThere(path)) {
+    while (!path.isEmpty() && !StatusOf(path).isThere) {
         missing += FileNameOf(path);
         path = FolderOf(path);
     }
@@ -111,7 +106,7 @@ Found Find(const QString& wanted)
         path = Joined(path, name);
         missing.removeLast();
         // Below a folder that was found under another spelling the exact names come first again.
-        while (!missing.isEmpty() && IsThere(Joined(path, missing.last())))
+        while (!missing.isEmpty() && StatusOf(Joined(path, missing.last())).isThere)
             path = Joined(path, missing.takeLast());
     }
     const bool whole = missing.isEmpty();
@@ -135,7 +130,7 @@ QString ExistingFile(const QString& path)
     if (!found.whole)
         throw FileError(IsPath(path) ? Kind::NotFound : Kind::Other, path, u"no such file"_s);
     // Opening a pipe would wait for a writer.
-    if (!QFileInfo(found.path).isFile())
+    if (!StatusOf(found.path).isFile)
         throw FileError(Kind::Other, found.path, u"not a file"_s);
     return found.path;
 }
@@ -149,12 +144,12 @@ bool IsReadOnly(const QFileInfo& file)
 
 void RequireWritable(const QString& path)
 {
-    const QFileInfo file(path);
-    if (!file.exists())
+    const EntryStatus status = StatusOf(path);
+    if (!status.isThere || (status.isLink && !status.isFile && !status.isFolder))
         return;
-    if (!file.isFile())
+    if (!status.isFile)
         throw FileError(Kind::Other, path, u"not a file"_s);
-    if (IsReadOnly(file))
+    if (IsReadOnly(QFileInfo(path)))
         throw FileError(Kind::PermissionDenied, path, u"the file is read-only"_s);
 }
 
@@ -162,7 +157,7 @@ void RequireWritable(const QString& path)
 void Replace(const QString& wanted, const std::function<void(QSaveFile&)>& fill)
 {
     const QString path = FindTarget(wanted).path;
-    if (!QFileInfo(FolderOf(path)).isDir())
+    if (!StatusOf(FolderOf(path)).isFolder)
         throw FileError(Kind::NotFound, path, u"no such folder"_s);
     RequireWritable(path);
     QSaveFile file(path);
@@ -217,13 +212,13 @@ QString DiskFileSystem::actualPath(const QString& path) const
 bool DiskFileSystem::fileExists(const QString& path) const
 {
     const Found found = Find(path);
-    return found.whole && QFileInfo(found.path).isFile();
+    return found.whole && StatusOf(found.path).isFile;
 }
 
 bool DiskFileSystem::folderExists(const QString& path) const
 {
     const Found found = Find(path);
-    return found.whole && QFileInfo(found.path).isDir();
+    return found.whole && StatusOf(found.path).isFolder;
 }
 
 QStringList DiskFileSystem::files(const QString& folder) const
@@ -246,7 +241,7 @@ QList<FolderEntry> DiskFileSystem::entries(const QString& folder) const
     const QString parent = actualPath(folder);
     QList<FolderEntry> found;
     for (const QString& name : Sorted(EntriesOf(parent, EntryKind::Any)))
-        found.append({name, KindOf(QFileInfo(Joined(parent, name)))});
+        found.append({name, KindOf(StatusOf(Joined(parent, name)))});
     return found;
 }
 
@@ -324,7 +319,7 @@ void DiskFileSystem::create(const QString& path, const std::function<QByteArray(
                             const QDateTime& modified)
 {
     const QString target = FindTarget(path).path;
-    if (QFileInfo(target).isSymLink())
+    if (StatusOf(target).isLink)
         QFile::remove(target); // what it leads to is another file
     RequireWritable(target);
     QFile file(target);
@@ -354,15 +349,15 @@ void DiskFileSystem::move(const QString& from, const QString& to)
     const Found target = FindTarget(to);
     const bool onlyCase = target.whole && target.path == source.path;
     const QString wanted = onlyCase ? Joined(FolderOf(source.path), FileNameOf(to)) : target.path;
-    const bool isFolder = QFileInfo(source.path).isDir() && !QFileInfo(source.path).isSymLink();
-    if (!onlyCase && target.whole && (isFolder || QFileInfo(target.path).isDir()))
+    const EntryStatus status = StatusOf(source.path);
+    const bool isFolder = status.isFolder && !status.isLink;
+    if (!onlyCase && target.whole && (isFolder || StatusOf(target.path).isFolder))
         throw FileError(Kind::Exists, target.path, u"the name is taken"_s);
     if (!isFolder && !onlyCase)
         RequireWritable(target.path);
-    std::error_code error;
-    std::filesystem::rename(NativeOf(source.path), NativeOf(wanted), error);
-    if (error)
-        Fail(source.path, error);
+    ClearSystemError();
+    if (!Rename(source.path, wanted))
+        Fail(source.path);
 }
 
 void DiskFileSystem::remove(const QString& path)
@@ -370,7 +365,7 @@ void DiskFileSystem::remove(const QString& path)
     const Found found = FindTarget(path);
     if (!found.whole)
         return;
-    if (const QFileInfo entry(found.path); entry.isDir() && !entry.isSymLink())
+    if (const EntryStatus entry = StatusOf(found.path); entry.isFolder && !entry.isLink)
         throw FileError(Kind::Other, found.path, u"not a file"_s);
     QFile file(found.path);
     ClearSystemError();
@@ -387,7 +382,7 @@ void DiskFileSystem::remove(const QString& path)
 void DiskFileSystem::createFolder(const QString& path)
 {
     const Found found = FindTarget(path);
-    if (found.whole && !QFileInfo(found.path).isDir())
+    if (found.whole && !StatusOf(found.path).isFolder)
         throw FileError(Kind::Exists, found.path, u"a file has the folder's name"_s);
     ClearSystemError();
     if (!found.whole && !QDir().mkpath(found.path))
@@ -399,12 +394,13 @@ void DiskFileSystem::removeTree(const QString& path)
     const Found found = FindTarget(path);
     if (!found.whole)
         return;
-    if (const QFileInfo entry(found.path); !entry.isDir() && !entry.isSymLink())
+    const EntryStatus entry = StatusOf(found.path);
+    if (!entry.isFolder && !entry.isLink)
         throw FileError(Kind::Other, found.path, u"not a folder"_s);
     std::error_code error;
     const std::filesystem::path top = NativeOf(found.path);
     std::filesystem::remove_all(top, error);
-    if (error && KindOfSystemError(error) == Kind::PermissionDenied && !QFileInfo(found.path).isSymLink()) {
+    if (error && KindOfSystemError(error) == Kind::PermissionDenied && !entry.isLink) {
         AllowRemovalOfTree(top);
         std::filesystem::remove_all(top, error);
     }

@@ -124,8 +124,8 @@ void DialogsWindowTest::texturePath()
     QCOMPARE(path->text(), u"Not installed or the specified path is invalid"_s);
     f.prompts.expectFile(f.path(u"Mine"_s));
     click(form, u"TexButton"_s);
-    QCOMPARE(path->text(), f.path(u"Mine"_s));
-    QCOMPARE(f.installation.read(u"VYKLaunch/Data/texpath.vyk"_s), ToAnsi(f.path(u"Mine"_s)) + "\r\n");
+    QCOMPARE(path->text(), f.nativePath(u"Mine"_s));
+    QCOMPARE(f.installation.read(u"VYKLaunch/Data/texpath.vyk"_s), ToAnsi(f.nativePath(u"Mine"_s)) + "\r\n");
     f.disk.removeTree(f.path(u"Mine"_s)); // gone while the dialog is open
     form.done(0);
     QVERIFY(!f.installation.exists(u"VYKLaunch/Data/texpath.vyk"_s));

@@ -62,7 +62,7 @@ void ToolbarTest::logs()
     f.installation.add(u"EDIT.OUT"_s);
     f.installation.add(u"Keldrax.out"_s);
     f.click(EditLog);
-    QCOMPARE(f.processes.lastCommandLine(), u"notepad.exe \""_s + f.path(u"EDIT.OUT"_s) + u'"');
+    QCOMPARE(f.processes.lastCommandLine(), u"notepad.exe \""_s + f.nativePath(u"EDIT.OUT"_s) + u'"');
     f.processes.startResult = false; // there is no such program: the system's own choice
     f.click(EngineLog);
     QCOMPARE(f.prompts.opened, QStringList(f.path(u"Keldrax.out"_s)));
@@ -83,14 +83,14 @@ void ToolbarTest::zipFolder()
     f.prompts.allowMessages = true; // its first file is no zip
     f.prompts.expectFile(f.path(u"Elsewhere"_s));
     f.click(ZipFolder);
-    QCOMPARE(f.archives(), ToAnsi(f.path(u"Elsewhere"_s)) + "\r\n");
+    QCOMPARE(f.archives(), ToAnsi(f.nativePath(u"Elsewhere"_s)) + "\r\n");
     QCOMPARE(f.launcher.controls.Auto[0].caption, u"CUSTOM ZIP LIBRARY"_s);
     QCOMPARE(f.launcher.controls.PwadList.count(), 1);
     QCOMPARE(f.launcher.settings.ListMode, 2);
 
     f.prompts.expectFile({}); // cancelled: as it was
     f.click(ZipFolder);
-    QCOMPARE(f.archives(), ToAnsi(f.path(u"Elsewhere"_s)) + "\r\n");
+    QCOMPARE(f.archives(), ToAnsi(f.nativePath(u"Elsewhere"_s)) + "\r\n");
 
     f.disk.removeTree(f.path(u"Elsewhere"_s));
     f.files.failOn(u"archives.vyk"_s, FileError::Kind::PermissionDenied);

@@ -1,6 +1,7 @@
 #include "iwads/IwadDialog.h"
 
 #include "catalogue/GameLists.h"
+#include "platform/Paths.h"
 #include "tests/support/LauncherFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -28,7 +29,10 @@ public:
     }
 
 private:
-    QString relative(QStringList paths) const { return paths.join(u'|').remove(installation.root() + u'/'); }
+    QString relative(QStringList paths) const
+    {
+        return WithSlashes(paths.join(u'|')).remove(installation.root() + u'/');
+    }
 };
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "launch/LaunchInstalledGame.h"
 #include "launch/LaunchButton.h"
+#include "platform/DateOrder.h"
 #include "platform/Text.h"
 #include "tests/support/CommercialGame.h"
 #include "tests/support/ZipMaker.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -125,9 +127,12 @@ private Q_SLOTS:
                     iwad = u"-iwad \"%1/Elsewhere/Doom2.wad\" "_s;
                 }
                 row.choose(game);
-                const QString expected = QString(u"Bin\\Keldrax "_s + iwad +
-                                                 (known ? row.known : row.elsewhere) + options + row.start)
-                                             .replace(u"%1"_s, game.installation.root());
+                QString expected =
+                    u"Bin\\Keldrax "_s + iwad + (known ? row.known : row.elsewhere) + options + row.start;
+                for (const QRegularExpression path(u"%1/([^\"]*)"_s); expected.contains(u"%1"_s);) {
+                    const QRegularExpressionMatch found = path.match(expected);
+                    expected.replace(found.captured(), game.nativePath(found.captured(1)));
+                }
                 const QString line = game.launchedLine();
                 QVERIFY2(line == expected,
                          qPrintable(QString::fromLatin1(row.name) + u'\n' + line + u'\n' + expected));
@@ -222,9 +227,10 @@ private Q_SLOTS:
         game.launcher.modelPacks.ModelPacksMissing = false;
         QFile wad(game.path(u"VYKGames/Blackwater Keep/Pwads/blakeep.wad"_s));
         QVERIFY(wad.open(QIODevice::ReadWrite));
-        QVERIFY(wad.setFileTime(QDateTime({2020, 8, 10}, {10, 10, 9}), QFileDevice::FileModificationTime));
+        const QDate first = IsDayBeforeMonth() ? QDate(2020, 8, 10) : QDate(2020, 10, 8);
+        QVERIFY(wad.setFileTime(QDateTime(first, {10, 10, 9}), QFileDevice::FileModificationTime));
         game.verifyRefused(u" Map update required"_s, u"an older version"_s);
-        QVERIFY(wad.setFileTime(QDateTime({2020, 8, 10}, {10, 10, 10}), QFileDevice::FileModificationTime));
+        QVERIFY(wad.setFileTime(QDateTime(first, {10, 10, 10}), QFileDevice::FileModificationTime));
         QVERIFY(game.launchedLine().contains(u" -usb "_s));
     }
 
@@ -243,6 +249,8 @@ private Q_SLOTS:
 
     void aNameWithAQuoteIsRefused()
     {
+        if (OnWindows)
+            QSKIP("no name holds one here");
         InstalledGame game;
         game.addWad(u"VYKGames/A \"quoted\" game/Pwads/x.wad"_s, {u"MAP01"_s});
         OptionUdirClick(game.launcher, 0);

@@ -76,7 +76,8 @@ private Q_SLOTS:
     {
         CommercialGame game;
         game.installation.addFolder(u"elsewhere/my wads"_s);
-        QVERIFY(QFile::rename(game.path(u"Iwads/Doom2.wad"_s), game.path(u"Iwads/DOOM2.WAD"_s)));
+        QVERIFY(QFile::remove(game.path(u"Iwads/Doom2.wad"_s)));
+        game.addWad(u"Iwads/DOOM2.WAD"_s, {u"MAP01"_s});
         game.launcher.iwads = {};
         BuildIwadList(game.launcher.iwads, game.files, game.launcher.paths, {});
         OptionUdirClick(game.launcher, 1);
@@ -129,6 +130,8 @@ private Q_SLOTS:
     // Nothing escapes a double quote: only a name that would stand on the line is in the way.
     void doubleQuotes()
     {
+        if (OnWindows)
+            QSKIP("no name holds one here");
         CommercialGame game;
         Launcher& launcher = game.launcher;
         game.addWad(u"else\"where \"/Doom2.wad"_s, {u"MAP01"_s});

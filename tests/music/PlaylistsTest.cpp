@@ -6,6 +6,7 @@
 #include "music/BuiltInPlaylists.h"
 #include "music/MusicFolder.h"
 #include "music/PlaylistEditor.h"
+#include "platform/Paths.h"
 #include "tests/support/LauncherFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -414,8 +415,9 @@ void PlaylistsTest::editing()
     f.prompts.expectFile(f.path(u"OggVorbis/own/b.OGG"_s));
     editor.AddMusic(12);
     QCOMPARE(editor.MusicList().at(12), u"MAP02 \"\\OggVorbis\\own\\b.OGG\""_s);
-    editor.AddMusicFile(13, u"/elsewhere/c d.mid"_s);
-    QCOMPARE(editor.MusicList().at(13), u"MAP03 \"/elsewhere/c d.mid\""_s);
+    const QString elsewhere = QDir::rootPath() + u"elsewhere/c d.mid"_s;
+    editor.AddMusicFile(13, elsewhere);
+    QCOMPARE(editor.MusicList().at(13), u"MAP03 \""_s + NativePath(elsewhere) + u'"');
     f.prompts.expectFile({});
     editor.AddMusic(12);
     QCOMPARE(f.prompts.fileQuestions.last().folder,

@@ -25,7 +25,7 @@ public:
         for (const QString& file :
              {u"hudweapons/SuperShotgun/db-shells.md2"_s, u"Items/a"_s, u"Lod/Common/a"_s,
               u"Lod/STANDARD/a"_s, u"Lod/Enhanced/a"_s, u"Monsters/Imp/a"_s, u"Monsters/Soldiers2/a"_s,
-              u"Monsters/soldiers2/a"_s, u"Tovrens/Gore/Gore6.dmd"_s, u"Kelspack/kelspack.wad"_s,
+              u"Monsters/soldiers2/b"_s, u"Tovrens/Gore/Gore6.dmd"_s, u"Kelspack/kelspack.wad"_s,
               u"Shiny.png"_s, u"metallic.png"_s})
             installation.add(md2 + u'/' + file, "12345");
         for (const QString& file :
@@ -88,9 +88,12 @@ private Q_SLOTS:
             packs.prompts.expectConfirmation(true);
             packs.prompts.expectMessage();
             packs.launcher.controls.ButPurge[2].clicked();
-            // hudweapons with its folder, Items, Lod and 3, Monsters and 3, Tovrens and Gore, Kelspack, and
-            // two folders of definitions; 10 files in them, 2 skins and 6 definitions of 5 bytes each
-            QCOMPARE(packs.prompts.cleanupSummaries, QStringList{u"To be removed: 16 folders and 18 files, 90 bytes"_s});
+            // hudweapons with its folder, Items, Lod and 3, Monsters and 3 (2 where their case does not
+            // count), Tovrens and Gore, Kelspack, and two folders of definitions; 10 files in them, 2 skins
+            // and 6 definitions of 5 bytes each
+            QCOMPARE(
+                packs.prompts.cleanupSummaries,
+                QStringList{u"To be removed: %1 folders and 18 files, 90 bytes"_s.arg(OnWindows ? 15 : 16)});
             QCOMPARE(packs.left(), QStringList());
             QVERIFY(packs.keepsOwn());
             QCOMPARE(packs.prompts.titles, QStringList{u" Cleanup Completed"_s});
@@ -187,6 +190,8 @@ private Q_SLOTS:
     // A link goes, what it leads to stays, whether it stands for a pack's folder or for one above it.
     void links()
     {
+        if (OnWindows)
+            QSKIP("not everybody makes links here");
         LauncherFixture f;
         for (const QString& file : {u"Elsewhere/Imp/a"_s, u"Elsewhere/Common/a"_s, u"Elsewhere/a"_s})
             f.installation.add(file, QByteArray(5000, 'x'));
@@ -224,7 +229,7 @@ private Q_SLOTS:
             CleanUpModels(packs.launcher);
             const bool failed = packs.files.calls() >= call;
             QVERIFY(packs.keepsOwn());
-            const QString text = packs.prompts.texts.last();
+            const QString text = WithSlashes(packs.prompts.texts.last());
             QVERIFY(text.startsWith(advice));
             const bool clean = FindModelPackItems(packs.files, packs.launcher.paths, everything).isEmpty();
             QCOMPARE(text == advice, clean);
@@ -279,8 +284,10 @@ private Q_SLOTS:
     {
         LauncherFixture f;
         for (const QString& file : {u"mine/x.ded"_s, u"mine/Sub/FullPack.DED"_s, u"mine/text.txt"_s,
-                                    u"mine/.ded"_s, u"mine/a\"b.ded"_s, u"Defs/CUSTOM/My.Own.ded"_s})
+                                    u"mine/.ded"_s, u"Defs/CUSTOM/My.Own.ded"_s})
             f.installation.add(file);
+        if (!OnWindows)
+            f.installation.add(u"mine/a\"b.ded"_s);
         f.installation.addFolder(u"mine/folder.ded"_s);
         ListBox list;
         const auto choose = [&](const QString& path) {

@@ -849,7 +849,7 @@ private Q_SLOTS:
             launcher.settings.TexturePath = u'/' + QString(length - 1, u'x');
             f.prompts.expectFile({});
             SetTexPath(launcher);
-            return f.prompts.folderTexts.last();
+            return WithSlashes(f.prompts.folderTexts.last());
         };
         const QString question = u"Select the new location of your high resolution textures ..."_s;
         QVERIFY(asked(30).startsWith(u"Current Location: /xx"_s) && asked(30).endsWith(u"\r\n"_s + question));

@@ -43,8 +43,6 @@ private Q_SLOTS:
     {
         TemporaryInstallation disk;
         disk.add(u"VYKGames/Hölle/Map.WAD"_s, "map");
-        disk.add(u"data/one"_s);
-        disk.add(u"DATA/two"_s);
         const DiskFileSystem files;
         const QString map = disk.path(u"VYKGames/Hölle/Map.WAD"_s);
         QCOMPARE(files.actualPath(disk.path(u"vykgames\\HÖLLE\\map.wad"_s)), map);
@@ -55,7 +53,11 @@ private Q_SLOTS:
         QVERIFY(files.modified(disk.path(u"vykgames/hölle/map.wad"_s)).isValid());
         QCOMPARE(files.files(disk.path(u"Vykgames/hölle"_s)), QStringList{u"Map.WAD"_s});
 
+        if (OnWindows)
+            return;
         // The exact spelling wins, then the first in ascending order.
+        disk.add(u"data/one"_s);
+        disk.add(u"DATA/two"_s);
         QVERIFY(files.fileExists(disk.path(u"data/ONE"_s)));
         QVERIFY(files.fileExists(disk.path(u"Data/TWO"_s)));
         QVERIFY(!files.fileExists(disk.path(u"Data/one"_s)));
@@ -91,10 +93,15 @@ private Q_SLOTS:
     void listsAscendWithoutRegardToCase()
     {
         TemporaryInstallation disk;
-        for (const QString& name : {u"b"_s, u"C"_s, u"a"_s, u".hidden"_s, u"B"_s, u"folder/x"_s, u"E/x"_s})
+        QStringList ascending{u".hidden"_s, u"a"_s, u"B"_s, u"b"_s, u"C"_s};
+        if (OnWindows)
+            ascending.removeOne(u"B"_s);
+        for (const QString& name : ascending)
+            disk.add(name);
+        for (const QString& name : {u"folder/x"_s, u"E/x"_s})
             disk.add(name);
         const DiskFileSystem files;
-        QCOMPARE(files.files(disk.root()), (QStringList{u".hidden"_s, u"a"_s, u"B"_s, u"b"_s, u"C"_s}));
+        QCOMPARE(files.files(disk.root()), ascending);
         QCOMPARE(files.folders(disk.root()), (QStringList{u"E"_s, u"folder"_s}));
     }
 
@@ -130,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(fails(Kind::NotFound, [&] { files.copy(disk.path(u"none"_s), disk.path(u"new"_s)); }));
         QVERIFY(fails(Kind::Other, [&] { files.write({}, "new"); }));
         QVERIFY(fails(Kind::Other, [&] { files.write(disk.path(u"a"_s) + QChar::Null, "new"); }));
-        QVERIFY(fails(Kind::Other, [&] { files.write(disk.path(QString(300, u'n')), "new"); }));
+        QVERIFY_THROWS_EXCEPTION(FileError, files.write(disk.path(QString(300, u'n')), "new"));
         QCOMPARE(disk.tree(), (QStringList{u"locked"_s, u"new"_s})); // no temporary file either
         QCOMPARE(disk.read(u"locked"_s), "old"_ba);
         QCOMPARE(disk.read(u"new"_s), "new"_ba);

@@ -80,7 +80,8 @@ private Q_SLOTS:
         launcher.environment = {};
         launcher.shortcutFolders = fixture.launcher.shortcutFolders;
         BuildIwadList(launcher.iwads, fixture.files, launcher.paths, launcher.environment);
-        OptionUdirClick(launcher, 2);
+        OptionUdirClick(launcher, installedGames);
+        launcher.controls.SkillsLevel[1].click(4);
         const QString line = PlanSelectedGame(launcher, [](const QString&) { return 1; }).commandLine;
         QVERIFY(line.startsWith(u"Bin\\Keldrax "_s));
         fixture.prompts.expectShortcut(desktopOnly);

@@ -34,6 +34,7 @@ public:
     Launcher launcher{files, processes, prompts, window, installation.root()};
 
     QString path(const QString& relativePath) const { return installation.path(relativePath); }
+    QString nativePath(const QString& relativePath) const { return installation.nativePath(relativePath); }
 
     // An empty IWAD, and enough reports of the game-file tool to list its one map again and again.
     QString addIwad(const QString& relativePath)

@@ -33,6 +33,11 @@ TemporaryInstallation::TemporaryInstallation()
     Require(m_folder.isValid(), m_folder.path());
 }
 
+QString TemporaryInstallation::nativePath(const QString& relativePath) const
+{
+    return QDir::toNativeSeparators(path(relativePath));
+}
+
 void TemporaryInstallation::add(const QString& relativePath, const QByteArray& bytes)
 {
     QFile file(path(relativePath));
@@ -74,7 +79,8 @@ QByteArray TemporaryInstallation::read(const QString& relativePath) const
 
 bool TemporaryInstallation::exists(const QString& relativePath) const
 {
-    return QFileInfo::exists(path(relativePath));
+    // Of a shortcut itself, not of what it leads to.
+    return std::filesystem::exists(QFileInfo(path(relativePath)).filesystemFilePath());
 }
 
 QStringList TemporaryInstallation::tree() const

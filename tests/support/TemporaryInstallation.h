@@ -5,6 +5,14 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+// Where names in a folder differ in more than their case and hold no '"', and where links to files and
+// folders are not for everybody.
+#ifdef Q_OS_WIN
+inline constexpr bool OnWindows = true;
+#else
+inline constexpr bool OnWindows = false;
+#endif
+
 // A folder of its own for one test, gone with this object. Paths are relative to root(), with '/'. What
 // cannot be done on the disk throws std::runtime_error.
 class TemporaryInstallation
@@ -14,6 +22,8 @@ public:
 
     QString root() const { return m_folder.path(); }
     QString path(const QString& relativePath) const { return m_folder.filePath(relativePath); }
+    // The same, as the system spells it on command lines and in files.
+    QString nativePath(const QString& relativePath) const;
 
     // Writes the file, with the folders that it needs.
     void add(const QString& relativePath, const QByteArray& bytes = {});

@@ -34,9 +34,10 @@ private Q_SLOTS:
         LauncherFixture f;
         f.processes.outputs = {report};
         QTEST(CountWadMaps(f.launcher, f.path(u"my games/a.wad"_s)), "key");
-        QCOMPARE(f.processes.captures,
-                 (QList<RecordingProcesses::Call>{
-                     {u"VYKgfiles CHECKWAD \""_s + f.path(u"my games/a.wad"_s) + u'"', f.path(u"Bin"_s)}}));
+        QCOMPARE(
+            f.processes.captures,
+            (QList<RecordingProcesses::Call>{
+                {u"VYKgfiles CHECKWAD \""_s + f.nativePath(u"my games/a.wad"_s) + u'"', f.path(u"Bin"_s)}}));
         QCOMPARE(f.installation.read(u"VYKLaunch/Data/pwad.vyk"_s), report + "\r\n");
     }
 
@@ -86,7 +87,7 @@ private Q_SLOTS:
         ListBox& list = f.launcher.controls.SaveGameList;
         ListSavegameHeaders(f.launcher, f.path(u"saves"_s));
         QCOMPARE(f.processes.captures.last().commandLine,
-                 u"VYKgfiles GETSAVEHDRS \""_s + f.path(u"saves"_s) + u'"');
+                 u"VYKgfiles GETSAVEHDRS \""_s + f.nativePath(u"saves"_s) + u'"');
         QCOMPARE(list.entries(),
                  (QStringList{u"0 - Start"_s, u"2 - End"_s, u"3 - Run, run"_s, u"4 - Étage"_s}));
         ListSavegameHeaders(f.launcher, f.path(u"saves"_s));
