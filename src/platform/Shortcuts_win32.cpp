@@ -93,7 +93,15 @@ void WriteShortcut(FileSystem& files, const Shortcut& shortcut)
     if (shortcut.arguments.size() > longestText)
         throw std::length_error("the arguments are too long for a shortcut");
     const QString path = shortcut.folder + u'/' + shortcut.name + u".lnk"_s;
-    files.write(path, linkBytes(shortcut, path));
+    // Written under its own name, the file that the link leads to would be the one replaced.
+    const QString unnamed = path + u".new"_s;
+    files.write(unnamed, linkBytes(shortcut, path));
+    try {
+        files.move(unnamed, path);
+    } catch (const FileError&) {
+        files.remove(unnamed);
+        throw;
+    }
 }
 
 void RefreshDesktop()

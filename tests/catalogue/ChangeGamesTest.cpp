@@ -397,7 +397,8 @@ private Q_SLOTS:
         }
         zips.prompts.expectName(u"pack"_s); // the same name, spelled otherwise: its records stay
         RenameArchive(zips.launcher);
-        QCOMPARE(zips.gone(), QStringList{u"VYKArchives/Pack.ZIP"_s});
+        const bool sameFile = OnWindows; // which may keep its spelling
+        QVERIFY(zips.gone() == QStringList{u"VYKArchives/Pack.ZIP"_s} || (sameFile && zips.gone().isEmpty()));
         zips.prompts.expectName(u"New & old"_s);
         RenameArchive(zips.launcher);
         QCOMPARE(zips.added(), QStringList{u"VYKArchives/New & old.zip"_s});

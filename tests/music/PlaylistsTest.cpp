@@ -430,7 +430,7 @@ void PlaylistsTest::editing()
 
     editor.removeMusic({1, 11, 12});
     QCOMPARE(editor.MusicList().mid(11, 3),
-             QStringList({u"MAP01"_s, u"MAP02"_s, u"MAP03 \"/elsewhere/c d.mid\""_s}));
+             QStringList({u"MAP01"_s, u"MAP02"_s, u"MAP03 \""_s + NativePath(elsewhere) + u'"'}));
     QCOMPARE(editor.MusicList().at(1), u" # INTERMISSION MUSIC FOR DOOM II"_s);
     editor.removeAllMusic();
     QCOMPARE(editor.MusicList(), StandardLayout(MusicGame::Doom2));
