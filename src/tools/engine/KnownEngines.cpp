@@ -41,7 +41,8 @@ QString FindEngine(const QProcessEnvironment& environment)
     const QStringList folders = ProgramFolders(environment);
     const QString wanted = environment.value(u"KELDRAX_ENGINE"_s);
     if (!wanted.isEmpty()) {
-        const QString path = wanted.contains(u'/') ? QFileInfo(wanted).absoluteFilePath() : wanted;
+        const QString given = QDir::fromNativeSeparators(wanted);
+        const QString path = given.contains(u'/') ? QFileInfo(given).absoluteFilePath() : given;
         const QString program = QStandardPaths::findExecutable(path, folders);
         if (program.isEmpty())
             throw EngineFailure(
