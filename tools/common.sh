@@ -48,11 +48,12 @@ install_packages() {
     quietly "${apt[@]}" install --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET [CMAKE-OPTION...]: prints warnings and errors only.
+# build PRESET [CMAKE-OPTION...]: builds `targets`, or everything; prints warnings and errors only.
+targets=()
 build() {
     local preset=$1
     [[ -e build/$preset/build.ninja ]] || echo "Building build/$preset (the first time takes some minutes)"
     quietly cmake --preset "$@"
-    cmake --build --preset "$preset" -- --quiet | sed '/^ninja: no work to do\.$/d' ||
+    cmake --build --preset "$preset" "${targets[@]/#/--target=}" -- --quiet | sed '/^ninja: no work to do\.$/d' ||
         fail "The build in build/$preset failed."
 }

@@ -24,11 +24,10 @@ find_windows_kit() {
         fail "VYK_WINDOWS_KIT is $VYK_WINDOWS_KIT, where no libraries for Windows are."
 }
 
-# Sets Wine up in build/wine, which is made when it is not there; what runs in it ends with this shell.
+# Sets Wine up in build/wine, which is made when it is not there.
 start_wine() {
     export WINEPREFIX=$PWD/build/wine WINEARCH=win64 WINEDEBUG=-all
     export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
-    trap 'wineserver -k || true' EXIT
     if [[ ! -e $WINEPREFIX/complete ]]; then
         rm -rf "$WINEPREFIX"
         mkdir -p build

@@ -43,7 +43,9 @@ QString FindEngine(const QProcessEnvironment& environment)
     if (!wanted.isEmpty()) {
         const QString given = QDir::fromNativeSeparators(wanted);
         const QString path = given.contains(u'/') ? QFileInfo(given).absoluteFilePath() : given;
-        const QString program = QStandardPaths::findExecutable(path, folders);
+        QString program = QStandardPaths::findExecutable(path, folders);
+        if (program.isEmpty()) // the ending may be missing
+            program = QStandardPaths::findExecutable(path + u".exe"_s, folders);
         if (program.isEmpty())
             throw EngineFailure(
                 u"KELDRAX_ENGINE names \"%1\", which is no program that can be started."_s.arg(wanted));
