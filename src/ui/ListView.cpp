@@ -138,6 +138,13 @@ void ListView::askMenuByKey()
     askMenu(visualRect(currentIndex()).bottomLeft());
 }
 
+void ListView::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QListView::initViewItemOption(option);
+    // What is chosen stays in sight while the keyboard is elsewhere: some systems pale it into the background.
+    option->state |= QStyle::State_Active;
+}
+
 void ListView::focusInEvent(QFocusEvent* event)
 {
     // The keyboard coming by chooses nothing: without this the first row would become the current one.
