@@ -17,7 +17,7 @@ install(DIRECTORY ${CMAKE_BINARY_DIR}/stand-ins/ DESTINATION Bin)
 install(DIRECTORY assets/VYKLaunch assets/VYK_Docs DESTINATION .)
 install(DIRECTORY assets/icons/ DESTINATION VYKLaunch/Icons FILES_MATCHING PATTERN "*.png")
 install(FILES LICENSE DESTINATION VYK_Docs)
-foreach(folder IN ITEMS Data Iwads Md2 OggVorbis UserSG VYKGames VYKArchives
+foreach(folder IN ITEMS Data Iwads Engine Md2 OggVorbis UserSG VYKGames VYKArchives
         Defs/Base Defs/Model/Addon Defs/Model/Tovrens Defs/Model/Kelspack Defs/Custom
         VYKLaunch/GameInfo VYKLaunch/Music)
     install(DIRECTORY DESTINATION ${folder})

@@ -3,6 +3,7 @@
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
 #include "tools/engine/EngineFailure.h"
+#include "tests/support/TemporaryInstallation.h"
 #include "tools/engine/EngineSwitches.h"
 
 #include <QDir>
@@ -229,11 +230,18 @@ private Q_SLOTS:
         QCOMPARE(ConventionsOf(u"/opt/Woof.exe"_s).saveFolderSwitch, u"-save"_s);
         QCOMPARE(ConventionsOf(u"/opt/my-engine"_s).savegame, u"doomsav%1.dsg"_s);
         m_environment.insert(u"KELDRAX_ENGINE"_s, u"no-such-engine-anywhere"_s);
-        QVERIFY_THROWS_EXCEPTION(EngineFailure, FindEngine(m_environment));
+        QVERIFY_THROWS_EXCEPTION(EngineFailure, FindEngine(root(), m_environment));
         const QFileInfo program(QCoreApplication::applicationFilePath());
         m_environment.insert(u"KELDRAX_ENGINE"_s, program.completeBaseName());
         m_environment.insert(u"PATH"_s, QDir::toNativeSeparators(program.path()));
-        QCOMPARE(FindEngine(m_environment), program.filePath());
+        QCOMPARE(FindEngine(root(), m_environment), program.filePath());
+        m_environment.remove(u"KELDRAX_ENGINE"_s);
+        TemporaryInstallation own;
+        own.addBuilt(u"Engine/woof"_s, RECORDER_PROGRAM);
+        own.addBuilt(u"elsewhere/crispy-doom"_s, RECORDER_PROGRAM);
+        m_environment.insert(u"PATH"_s, own.nativePath(u"elsewhere"_s));
+        QVERIFY(FindEngine(own.root(), m_environment).contains(u"/Engine/woof"_s));
+        QVERIFY(FindEngine(own.path(u"none"_s), m_environment).contains(u"/elsewhere/crispy-doom"_s));
     }
 };
 

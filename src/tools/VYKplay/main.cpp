@@ -1,4 +1,5 @@
 #include "app/InstallationPaths.h"
+#include "platform/Console.h"
 #include "tools/VYKplay/Play.h"
 
 #include <QCoreApplication>
@@ -7,6 +8,7 @@
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    const Utf8Console console;
     const Arguments arguments = ParseArguments(QCoreApplication::arguments().mid(1));
     const QString root = arguments.root.isEmpty()
                              ? InstallationPaths::rootOf(QCoreApplication::applicationFilePath())

@@ -107,7 +107,7 @@ int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& 
     Report report(files, root);
     QStringList lines{u"Given: "_s + AsLine(arguments)};
     try {
-        const QString program = FindEngine(environment);
+        const QString program = FindEngine(root, environment);
         const KnownEngine& conventions = ConventionsOf(program);
         const EnginePlan plan =
             TranslateCommandLine(files, {root, arguments, environment, conventions, MapsOf});

@@ -36,28 +36,30 @@ const KnownEngine& ConventionsOf(const QString& program)
     return row == std::end(engines) ? engines[0] : *row;
 }
 
-QString FindEngine(const QProcessEnvironment& environment)
+QString FindEngine(const QString& root, const QProcessEnvironment& environment)
 {
+    const QStringList own{root + u"/Engine"_s};
     const QStringList folders = ProgramFolders(environment);
     const QString wanted = environment.value(u"KELDRAX_ENGINE"_s);
     if (!wanted.isEmpty()) {
         const QString given = QDir::fromNativeSeparators(wanted);
         const QString path = given.contains(u'/') ? QFileInfo(given).absoluteFilePath() : given;
-        QString program = QStandardPaths::findExecutable(path, folders);
+        QString program = QStandardPaths::findExecutable(path, own + folders);
         if (program.isEmpty()) // the ending may be missing
-            program = QStandardPaths::findExecutable(path + u".exe"_s, folders);
+            program = QStandardPaths::findExecutable(path + u".exe"_s, own + folders);
         if (program.isEmpty())
             throw EngineFailure(
                 u"KELDRAX_ENGINE names \"%1\", which is no program that can be started."_s.arg(wanted));
         return program;
     }
     QStringList names;
-    for (const KnownEngine& known : engines) {
+    for (const KnownEngine& known : engines)
         names += known.program.toString();
-        const QString program = QStandardPaths::findExecutable(names.last(), folders);
-        if (!program.isEmpty())
-            return program;
-    }
-    throw EngineFailure(u"No Doom engine was found (%1). Install one, or name one in KELDRAX_ENGINE."_s.arg(
-        names.join(u", "_s)));
+    for (const QStringList& places : {own, folders})
+        for (const QString& name : names)
+            if (const QString program = QStandardPaths::findExecutable(name, places); !program.isEmpty())
+                return program;
+    throw EngineFailure(
+        u"No Doom engine was found (%1). Install one, put one into the folder Engine, or name one in KELDRAX_ENGINE."_s
+            .arg(names.join(u", "_s)));
 }

@@ -14,6 +14,7 @@ struct KnownEngine
 // The conventions of the engine at `program`, by its base name; those of crispy-doom for an unknown one.
 const KnownEngine& ConventionsOf(const QString& program);
 
-// The engine to start: the program that KELDRAX_ENGINE names (a path, or a name that is looked for like
-// the others), else the first known one in PATH or the folders for games. Throws EngineFailure.
-QString FindEngine(const QProcessEnvironment& environment);
+// The engine to start: the program that KELDRAX_ENGINE names (a path, or a name that is looked for like the
+// others), else the first known one in the folder "Engine" of the installation at `root`, in PATH or in the
+// folders for games. Throws EngineFailure.
+QString FindEngine(const QString& root, const QProcessEnvironment& environment);

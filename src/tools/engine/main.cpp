@@ -1,3 +1,4 @@
+#include "platform/Console.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
 #include "tools/engine/EngineAdapter.h"
@@ -7,6 +8,7 @@
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    const Utf8Console console;
     DiskFileSystem files;
     // The program lies in the Bin folder of its installation.
     const QString root = FolderOf(QCoreApplication::applicationDirPath());
