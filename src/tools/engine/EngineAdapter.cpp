@@ -1,5 +1,6 @@
 #include "tools/engine/EngineAdapter.h"
 
+#include "platform/Complain.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 #include "tools/engine/EngineFailure.h"
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QProcess>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -26,9 +26,9 @@ int MapsOf(const QString& path)
     return directory ? static_cast<int>(directory->maps.size()) : 0;
 }
 
-void Complain(const QString& message)
+void complain(const QString& message)
 {
-    std::fprintf(stderr, "Keldrax: %s\n", qPrintable(message));
+    Complain(u"Keldrax"_s, message);
 }
 
 // Keldrax.out. A report that cannot be written keeps nobody from playing.
@@ -45,7 +45,7 @@ public:
             m_path = m_files.actualPath(m_path);
             return true;
         } catch (const FileError& error) {
-            Complain(QString::fromUtf8(error.what()));
+            complain(QString::fromUtf8(error.what()));
             return false;
         }
     }
@@ -83,7 +83,7 @@ int Play(const QString& program, const EnginePlan& plan, const QString& root, En
     if (!engine.waitForStarted(-1)) {
         const QString message = u"%1 could not be started: %2"_s.arg(program, engine.errorString());
         report.append(u"Failed: "_s + message);
-        Complain(message);
+        complain(message);
         return failed;
     }
     while (!engine.waitForFinished(publishInterval) && engine.state() != QProcess::NotRunning)
@@ -92,7 +92,7 @@ int Play(const QString& program, const EnginePlan& plan, const QString& root, En
 
     if (engine.exitStatus() == QProcess::CrashExit) {
         report.append(u"Exit status: none, the engine crashed or was ended"_s);
-        Complain(u"The engine crashed or was ended. What it printed stands in %1."_s.arg(report.path()));
+        complain(u"The engine crashed or was ended. What it printed stands in %1."_s.arg(report.path()));
         return failed;
     }
     report.append(u"Exit status: %1"_s.arg(engine.exitCode()));
@@ -131,13 +131,13 @@ int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& 
             savegames.removePublished();
         for (const QString& problem : savegames.problems()) {
             report.append(problem);
-            Complain(problem);
+            complain(problem);
         }
         return status;
     } catch (const std::runtime_error& failure) { // EngineFailure or FileError
         const QString message = QString::fromUtf8(failure.what());
         lines += u"Failed: "_s + message;
-        Complain(message);
+        complain(message);
     }
     report.rewrite(lines);
     return failed;

@@ -1,4 +1,3 @@
-#include "platform/Console.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
 #include "tools/engine/EngineAdapter.h"
@@ -8,7 +7,6 @@
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const Utf8Console console;
     DiskFileSystem files;
     // The program lies in the Bin folder of its installation.
     const QString root = FolderOf(QCoreApplication::applicationDirPath());
