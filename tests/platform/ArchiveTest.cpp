@@ -52,6 +52,21 @@ public:
     int stepsUntilCancelled = -1;
 };
 
+// The older encryption lets one wrong password in 256 pass, depending on random bytes at the zip's beginning.
+QByteArray lockedAgainstWrong(const char* encryption)
+{
+    constexpr int tries = 20;
+    QByteArray locked;
+    for (int i = 0; i < tries; ++i) {
+        locked = LockedZip("door.wad", "wad", "s\xc3\xa9same", encryption);
+        Extracting zip(locked);
+        zip.passwords = {u"wrong"_s};
+        if (zip.run() == Extraction::NotAZip)
+            break;
+    }
+    return locked;
+}
+
 } // namespace
 
 class ArchiveTest : public QObject
@@ -135,7 +150,7 @@ private Q_SLOTS:
     void passwords()
     {
         for (const char* encryption : {"traditional", "aes256"}) {
-            const QByteArray locked = LockedZip("door.wad", "wad", "s\xc3\xa9same", encryption);
+            const QByteArray locked = lockedAgainstWrong(encryption);
             Extracting known(locked);
             known.passwords = {u"wrong"_s, u"s\u00e9same"_s};
             QCOMPARE(known.run(), Extraction::Done);
