@@ -226,12 +226,12 @@ private Q_SLOTS:
     void passwords()
     {
         Library library;
-        library.installation.add(u"Downloads/locked.zip"_s, LockedZip("door.wad", "wad", "sesame"));
+        library.installation.add(u"Downloads/locked.zip"_s, LockedZip("door.wad", "wad", "sesame", "aes256"));
         library.prompts.expectPassword(u"wrong"_s);
         library.prompts.expectPassword(u"sesame"_s);
         QCOMPARE(library.install(u"Downloads/locked.zip"_s), Installed::Done);
         QCOMPARE(library.games().value(u"locked/Pwads/door.wad"_s), "wad");
-        library.installation.add(u"Downloads/other.zip"_s, LockedZip("door.wad", "wad", "sesame"));
+        library.installation.add(u"Downloads/other.zip"_s, LockedZip("door.wad", "wad", "sesame", "aes256"));
         library.prompts.expectPassword({});
         for (int attempt = 0; attempt < 2; ++attempt) {
             library.prompts.expectMessage();
