@@ -21,6 +21,7 @@ private Q_SLOTS:
     void pressesCountAsClicks();
     void aDoubleClickFollowsTheClick();
     void aNewSelectionIsScrolledIntoSight();
+    void theChoiceStaysInSight();
     void theMenuShowsWhatIsVisible();
     void theMenuBelongsToTheRow();
     void aPickedItemRunsOnceTheMenuIsGone();
@@ -138,6 +139,20 @@ void ListWindowTest::aNewSelectionIsScrolledIntoSight()
     m_list->scrollToTop();
     m_binder->write(); // what the player scrolled to stays
     QVERIFY(!m_list->viewport()->rect().contains(centreOf(150)));
+}
+
+// Also while the keyboard is elsewhere and the system pales what it calls inactive.
+void ListWindowTest::theChoiceStaysInSight()
+{
+    QPalette colours = m_list->palette();
+    colours.setColor(QPalette::Active, QPalette::Highlight, Qt::green);
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, Qt::white);
+    m_list->setPalette(colours);
+    press(Qt::LeftButton, 1);
+    m_list->clearFocus();
+    const QRect row = m_list->visualRect(m_list->currentIndex());
+    const QImage shown = m_list->viewport()->grab().toImage();
+    QCOMPARE(shown.pixelColor(row.right() - 2, row.center().y()), QColor(Qt::green));
 }
 
 void ListWindowTest::theMenuShowsWhatIsVisible()
