@@ -2,12 +2,12 @@
 //     INSTALLED LISTING ZIPS LISTING KEY
 // the medians of switching to the installed games and of listing their folder, the same for the zip
 // library, and the longest of the keys typed into the filter box, each until the window is painted.
+#include "app/Connect.h"
 #include "app/MainForm.h"
 #include "app/MainWindowLoad.h"
-#include "catalogue/GameLists.h"
+#include "app/PromptsView.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/SystemProcesses.h"
-#include "ui/PromptsView.h"
 
 #include <QApplication>
 #include <QDir>
@@ -47,15 +47,15 @@ int main(int argc, char** argv)
     SystemProcesses processes(files);
     MainForm window;
     PromptsView prompts(&window);
-    Launcher launcher(files, processes, prompts, window, root);
+    ConnectedLauncher launcher(files, processes, prompts, window, root);
     window.attach(launcher);
     LoadMainWindow(launcher);
     window.show();
     QTest::qWaitForWindowExposed(&window);
 
-    const auto show = [&](int view) {
+    const auto show = [&](View view) {
         return milliseconds([&] {
-            OptionUdirClick(launcher, view);
+            launcher.controls.OptionUdir.click(view);
             window.refresh();
             window.repaint();
         });
@@ -65,9 +65,9 @@ int main(int argc, char** argv)
     };
     std::vector<double> installed, games, zips, archives;
     for (int run = 0; run < runs; ++run) {
-        installed.push_back(show(installedGames));
+        installed.push_back(show(View::InstalledGames));
         games.push_back(list(launcher.paths.GamesPath));
-        zips.push_back(show(zipLibrary));
+        zips.push_back(show(View::ZipLibrary));
         archives.push_back(list(launcher.paths.ArchivesPath));
     }
 

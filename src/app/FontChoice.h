@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The launcher fonts that can be chosen.
 struct LauncherFont

@@ -43,8 +43,8 @@ void HeaderBar::arrange(TitleView* picture, Controls& controls, ControlBinder& b
     auto* links = new QVBoxLayout(picture);
     links->setContentsMargins(0, 12, 16, 12);
     links->addStretch();
-    links->addWidget(link(binder, controls.Home[0], u"Home_0"_s), 0, Qt::AlignRight);
-    links->addWidget(link(binder, controls.Home[3], u"Home_3"_s), 0, Qt::AlignRight);
+    links->addWidget(link(binder, controls.Home[Link::Website], u"Home_0"_s), 0, Qt::AlignRight);
+    links->addWidget(link(binder, controls.Home[Link::Downloads], u"Home_3"_s), 0, Qt::AlignRight);
     links->addStretch();
 
     Button& title = controls.TitlePic;
@@ -59,10 +59,10 @@ QWidget* HeaderBar::toolsAndTabs(Controls& controls, ControlBinder& binder)
     row->setContentsMargins(12, 0, 12, 0);
     row->setSpacing(4);
 
-    constexpr int tools = 9; // the last of the buttons is on a page
     PageBinder make(binder);
-    for (int tool = 0; tool < tools; ++tool)
-        row->addWidget(make.toolButton(controls.AuxButton, tool));
+    for (int tool = 0; tool < static_cast<int>(Tool::TextureFolder); ++tool) // which is on a page
+        row->addWidget(
+            make.toolButton(NameOf(u"AuxButton"_s, tool), controls.AuxButton[static_cast<Tool>(tool)], tool));
 
     auto* wine = new QLabel;
     binder.bind(u"WineImage"_s, controls.WineImage, wine);

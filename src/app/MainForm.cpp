@@ -3,11 +3,11 @@
 #include "app/FontForm.h"
 #include "app/HeaderBar.h"
 #include "app/MainWindowLoad.h"
+#include "app/ShowAll.h"
 #include "app/StripBar.h"
 #include "app/TipsForm.h"
 #include "catalogue/GamesPage.h"
 #include "iwads/IwadForm.h"
-#include "launch/CommandPreview.h"
 #include "music/MusicForm.h"
 #include "options/GraphicsPage.h"
 #include "options/ModelsPage.h"
@@ -82,11 +82,11 @@ void MainForm::build()
     below->setContentsMargins(12, 0, 12, 0);
     below->setSpacing(10);
     auto* games = new GamesPage(controls, m_binder);
-    m_binder.bind(u"TabFrame_0"_s, controls.TabFrame[0], games);
+    m_binder.bind(u"TabFrame_0"_s, controls.TabFrame[Tab::Games], games);
     below->addWidget(games, 1);
     for (int tab = 1; tab < controls.OptionTabs.count(); ++tab) {
         auto* page = new QWidget;
-        m_binder.bind(NameOf(u"TabFrame"_s, tab), controls.TabFrame[static_cast<size_t>(tab)], page);
+        m_binder.bind(NameOf(u"TabFrame"_s, tab), controls.TabFrame[static_cast<Tab>(tab)], page);
         below->addWidget(page, 1);
         m_optionPages << page;
     }
@@ -97,7 +97,7 @@ void MainForm::build()
     setAcceptDrops(true);
     const auto* find = new QShortcut(Qt::CTRL | Qt::Key_F, this);
     connect(find, &QShortcut::activated, this, [this, games] {
-        m_binder.run([this] { m_launcher->controls.OptionTabs.select(0); });
+        m_binder.run([this] { m_launcher->controls.OptionTabs.click(Tab::Games); });
         games->findGame();
     });
 }
@@ -142,6 +142,7 @@ bool MainForm::isReachableAt(QPoint topLeft) const
 
 void MainForm::refresh()
 {
+    ShowWindow(*m_launcher);
     m_title->showPicture(m_launcher->controls.TitlePic.text); // read beside the rest of the load
     m_binder.write();
 }
@@ -204,10 +205,9 @@ void MainForm::beforeWrite()
         return;
     // Pages come before others go: the window would grow to hold both.
     layout()->setEnabled(false);
-    UpdateCommandPreview(*m_launcher);
     const Controls& controls = m_launcher->controls;
     for (int page = 0; page < m_optionPages.size(); ++page)
-        if (controls.TabFrame[static_cast<size_t>(page + 1)].visible && !m_optionPages.at(page)->layout())
+        if (controls.TabFrame[static_cast<Tab>(page + 1)].visible && !m_optionPages.at(page)->layout())
             buildOptionPage(page);
 }
 
@@ -267,9 +267,13 @@ void MainForm::fitMode()
 
 bool MainForm::eventFilter(QObject* watched, QEvent* event)
 {
+    // A drop-down list takes its entry, and closes, before the key press itself comes.
+    if (event->type() == QEvent::ShortcutOverride && watched->isWindowType())
+        m_keyIsPopups = QApplication::activePopupWidget();
     if (event->type() == QEvent::KeyPress && isActiveWindow() && !QApplication::activePopupWidget()) {
         const auto* keyEvent = static_cast<QKeyEvent*>(event);
-        const bool isEnter = keyEvent->key() == Qt::Key_Return || keyEvent->key() == Qt::Key_Enter;
+        const bool isEnter =
+            !m_keyIsPopups && (keyEvent->key() == Qt::Key_Return || keyEvent->key() == Qt::Key_Enter);
         const bool isMeantForList = qobject_cast<FilterView*>(QApplication::focusWidget());
         bool pressed = false;
         if (isEnter && !isMeantForList && !keyEvent->isAutoRepeat())

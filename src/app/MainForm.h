@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 #include "ui/ControlBinder.h"
 
 #include <QWidget>
@@ -63,6 +63,7 @@ private:
     QList<QWidget*> m_optionPages;  // those of the tabs after the first; each is filled when it is shown
     IwadForm* m_iwadForm = nullptr; // from its first use on
     bool m_tipsWanted = false;
-    bool m_compact = false; // as the window is sized
-    int m_heightBefore = 0; // before the controls were written to the widgets
+    bool m_keyIsPopups = false; // the key that is being pressed went to an open list or menu
+    bool m_compact = false;     // as the window is sized
+    int m_heightBefore = 0;     // before the controls were written to the widgets
 };

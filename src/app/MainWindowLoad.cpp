@@ -1,26 +1,23 @@
 #include "app/MainWindowLoad.h"
 
-#include "app/SettingsControls.h"
 #include "app/SettingsLoad.h"
+#include "app/ShowAll.h"
 #include "app/StartUp.h"
 #include "app/Themes.h"
 #include "app/Tips.h"
-#include "app/ToolTips.h"
 #include "catalogue/GameLists.h"
 #include "catalogue/GameStaging.h"
-#include "catalogue/ScriptedMapMode.h"
-#include "music/AutoPlaylist.h"
+#include "iwads/IwadSearch.h"
 #include "music/Playlists.h"
-#include "options/DisplayMode.h"
 #include "options/DisplayResolution.h"
-#include "options/LoadOptions.h"
+#include "options/PackFacts.h"
 #include "platform/Paths.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int exitMode = 2; // LaunchMode
 
 void createOwnFolders(Launcher& launcher)
 {
@@ -40,7 +37,7 @@ void recoverGames(Launcher& launcher)
 void emptyZipFolder(Launcher& launcher)
 {
     const QString zips = launcher.paths.LaunchPath + u"Zips/"_s;
-    if (launcher.settings.LastLaunchMode != exitMode)
+    if (launcher.settings.LastLaunchMode != static_cast<int>(LaunchMode::Exit))
         return;
     for (const QString& name : launcher.files.files(zips)) {
         try {
@@ -63,9 +60,8 @@ void placeWindow(Launcher& launcher)
         settings.WindowTop = centre.y();
         settings.WindowLeft = centre.x();
     }
-    const bool useSaved = known && !launcher.startUp.RunningUnderWine && launcher.window.isReachableAt(saved);
+    const bool useSaved = known && !launcher.RunningUnderWine && launcher.window.isReachableAt(saved);
     launcher.window.moveTo(useSaved ? saved : centre);
-    launcher.controls.WineImage.visible = launcher.startUp.RunningUnderWine;
 }
 
 void reportReset(Launcher& launcher)
@@ -88,10 +84,8 @@ void reportReset(Launcher& launcher)
 
 void LoadMainWindow(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
     Settings& settings = launcher.settings;
-
-    CheckDPISettings(launcher);
+    launcher.facts.logicalDpi = launcher.window.logicalDpi();
     if (!launcher.font.FontName.isEmpty())
         launcher.window.checkFont(launcher.font);
     createOwnFolders(launcher);
@@ -99,49 +93,32 @@ void LoadMainWindow(Launcher& launcher)
     LoadSettings(launcher);
     if (launcher.startUp.ShuttingDown)
         return;
-    PrepareOptions(launcher);
-    GetTitlePic(launcher);
     if (!settings.ShowTipsAtStartup)
         Tips hidden(launcher); // each start has its tip, shown or not
-    if (!settings.DisableToolTips)
-        ToolTipText(launcher);
-    if (!settings.AdvancedOptions)
-        DefaultMode(launcher);
+    GetTitlePic(launcher);
     launcher.window.refresh(); // the window has its height from here on
-    GetCurrentRes(launcher);
-
-    BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
-    if (!launcher.iwads.anyKnown())
-        settings.SelectedDoomGame.clear();
     emptyZipFolder(launcher);
     placeWindow(launcher);
-    ApplySettingsToControls(settings, controls);
-    LoadPlaylists(launcher);
-    if (!settings.AdvancedOptions)
-        DefaultMode(launcher); // again: the edit mode, say, shows a button
-    if (settings.DevelopmentMode)
-        controls.chkTesting.visible = controls.ExitOption[0].visible = true;
-    if (settings.LaunchMode == 0)
-        controls.ExitOption[0].visible = true;
-    if (controls.SkillsLevel[1].selected() == 0)
-        launcher.launch.StartChoice = StartChoice::NewGame;
-    SelectStartupOptions(launcher);
-
-    const bool viewIsHidden = settings.ListMode == zipLibrary && !settings.AdvancedOptions;
-    OptionUdirClick(launcher, viewIsHidden ? doomGames : qBound(0, settings.ListMode, zipLibrary));
-    if (launcher.iwads.ShowIwads[0].isEmpty())
+    ReadFacts(launcher);
+    if (launcher.facts.iwads.ShowIwads[0].isEmpty())
         launcher.window.showIwadForm();
     if (launcher.startUp.ShuttingDown)
         return;
-
-    CheckOptions(launcher);
-    if (!settings.PlaylistFrameHidden)
-        controls.SoundFrame[1].visible = true;
     reportReset(launcher);
-    RestoreScriptedMapMode(launcher);
-    launcher.selection.gamesChanged = false;
-    controls.MainForm.caption = launcher.startUp.WindowCaption;
     launcher.window.refresh();
+}
+
+void ReadFacts(Launcher& launcher)
+{
+    Facts& facts = launcher.facts;
+    ReadPacks(launcher);
+    LoadPlaylists(launcher);
+    facts.resolution = GetCurrentRes(launcher.files, launcher.paths);
+    BuildIwadList(facts.iwads, launcher.files, launcher.paths, launcher.environment);
+    facts.iwadsOnDisk = ReadIwadFacts(facts.iwads, launcher.files, launcher.paths, launcher.environment);
+    if (!facts.iwads.anyKnown())
+        launcher.settings.SelectedDoomGame.clear();
+    SelectView(launcher, launcher.view());
 }
 
 void UnloadMainWindow(Launcher& launcher)
@@ -149,7 +126,7 @@ void UnloadMainWindow(Launcher& launcher)
     if (launcher.startUp.ShuttingDown)
         return;
     Settings& settings = launcher.settings;
-    if (!launcher.startUp.RunningUnderWine && launcher.window.isInNormalState()) {
+    if (!launcher.RunningUnderWine && launcher.window.isInNormalState()) {
         settings.WindowTop = launcher.window.position().y();
         settings.WindowLeft = launcher.window.position().x();
     }
@@ -158,7 +135,6 @@ void UnloadMainWindow(Launcher& launcher)
     } catch (const FileError&) {
         // The last report of the game-file tool matters to nobody.
     }
-    ReadControlsToSettings(settings, launcher.controls);
     try {
         if (!launcher.startUp.VersionUpdate)
             SaveSettings(launcher);
@@ -173,19 +149,19 @@ void UnloadMainWindow(Launcher& launcher)
 
 void ActivateMainWindow(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
-    if (launcher.settings.SelectedDoomGame.isEmpty())
-        controls.PwadList.select(0);
-    if (!HasAutoPlaylists(launcher))
-        controls.chkSound[4].setTicked(false);
-    LaunchState& launch = launcher.launch;
-    launch.AfterLaunch = launch.AfterLaunch && Reset(launcher);
+    if (launcher.view() == View::DoomGames && launcher.gameIs(GameKind::None))
+        SelectView(launcher, View::DoomGames);
+    if (ReadPlaylists(launcher); launcher.facts.autoPlaylists.isEmpty())
+        launcher.settings.AutoPlaylistsOn = false;
+    launcher.session.AfterLaunch = launcher.session.AfterLaunch && Reset(launcher);
+    ShowWindow(launcher);
 }
 
 void ResizeMainWindow(Launcher& launcher)
 {
-    if (launcher.window.isInNormalState() && std::exchange(launcher.launch.AfterLaunch, false))
+    if (launcher.window.isInNormalState() && std::exchange(launcher.session.AfterLaunch, false))
         Reset(launcher);
+    ShowWindow(launcher);
 }
 
 bool EnterPressed(Launcher& launcher)

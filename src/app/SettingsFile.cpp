@@ -1,6 +1,6 @@
 #include "app/SettingsFile.h"
 
-#include "app/SettingsTable.h"
+#include "state/OptionTable.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,9 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::span<const SettingRow> rowsOfFile(bool withPosition)
+std::span<const OptionRow> rowsOfFile(bool withPosition)
 {
-    const auto rows = SettingsTable();
+    const auto rows = OptionTable();
     return withPosition ? rows : rows.first(rows.size() - WinePositionLines);
 }
 
@@ -54,24 +54,9 @@ QString inOneLine(QString text)
 
 } // namespace
 
-Settings DefaultSettings()
-{
-    Settings settings;
-    for (const SettingRow& row : SettingsTable()) {
-        if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
-            settings.** flag = std::get<bool>(row.start);
-        else if (const auto* number = std::get_if<int Settings::*>(&row.member))
-            settings.** number = std::get<int>(row.start);
-        else
-            settings.*std::get<QString Settings::*>(row.member) =
-                QString::fromUtf16(std::get<const char16_t*>(row.start));
-    }
-    return settings;
-}
-
 ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withPosition)
 {
-    for (const SettingRow& row : rowsOfFile(withPosition)) {
+    for (const OptionRow& row : rowsOfFile(withPosition)) {
         if (row.line > lines.size())
             return ReadResult::Stopped;
         const QString& line = lines.at(row.line - 1);
@@ -95,7 +80,7 @@ ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withP
 QStringList SettingsLines(const Settings& settings, bool withPosition)
 {
     QStringList lines;
-    for (const SettingRow& row : rowsOfFile(withPosition)) {
+    for (const OptionRow& row : rowsOfFile(withPosition)) {
         if (const auto* text = std::get_if<QString Settings::*>(&row.member))
             lines << inOneLine(settings.**text);
         else if (const auto* flag = std::get_if<bool Settings::*>(&row.member))

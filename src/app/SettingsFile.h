@@ -1,13 +1,10 @@
 #pragma once
 
-#include "app/Settings.h"
+#include "state/Settings.h"
 
 #include <QStringList>
 
 // The lines of config.vyk.
-
-// Every setting's default.
-Settings DefaultSettings();
 
 enum class ReadResult {
     Complete,

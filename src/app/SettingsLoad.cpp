@@ -1,8 +1,10 @@
 #include "app/SettingsLoad.h"
 
 #include "app/StartUp.h"
+#include "options/Modes.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
+#include "state/OptionTable.h"
 
 #include <algorithm>
 
@@ -80,32 +82,41 @@ ReadResult ReadStoredSettings(Launcher& launcher)
     try {
         if (files.fileExists(ConfigPath(launcher)))
             return ReadSettings(launcher.settings, ReadLines(files, ConfigPath(launcher)),
-                                !launcher.startUp.RunningUnderWine);
+                                !launcher.RunningUnderWine);
     } catch (const FileError&) {
         // What could not be read keeps its default.
     }
     return ReadResult::Stopped;
 }
 
-void CorrectSettings(Launcher& launcher)
+void CorrectSettings(Settings& settings)
 {
-    constexpr int longestGrenadeTime = 7;
-    Settings& settings = launcher.settings;
-    if (settings.CorpseSeconds == 0) {
-        CheckBox& resurrect = launcher.controls.chkVYKOpts[3];
+    const Settings usual = DefaultSettings();
+    const auto keepWithin = [&](int Settings::*setting, int lowest, int highest) {
+        if (settings.*setting < lowest || settings.*setting > highest)
+            settings.*setting = usual.*setting;
+    };
+    keepWithin(&Settings::LightLevel, 0, 255);
+    keepWithin(&Settings::LastSkill, 1, 5);
+    keepWithin(&Settings::Skill, 0, 5);
+    keepWithin(&Settings::SkyMode, 0, 1);
+    keepWithin(&Settings::SmokeMode, 0, 1);
+    keepWithin(&Settings::LaunchMode, 0, 2);
+    keepWithin(&Settings::ListMode, 0, 2);
+    settings.GrenadeTime = std::clamp(settings.GrenadeTime, 0, 7);
+    if (settings.CorpseSeconds == 0) // corpses that stay need no resurrection
         settings.ResurrectCorpses = false;
-        resurrect.setTicked(false);
-        resurrect.enabled = false;
-        launcher.controls.Corpse.colour = Colour::Accent;
-    }
-    settings.GrenadeTime = std::clamp(settings.GrenadeTime, 0, longestGrenadeTime);
+    if (settings.ListMode == static_cast<int>(View::ZipLibrary) && !settings.AdvancedOptions)
+        settings.ListMode = static_cast<int>(View::DoomGames); // which alone has the zip library
+    settings.ScriptedMapMode = settings.ScriptedMapMode || settings.AutoSelect;
+    SettleModes(settings);
 }
 
 void LoadSettings(Launcher& launcher)
 {
     if (ReadStoredSettings(launcher) == ReadResult::Corrupt)
         reportCorruptConfig(launcher);
-    CorrectSettings(launcher);
+    CorrectSettings(launcher.settings);
 }
 
 void SaveSettings(Launcher& launcher)
@@ -113,6 +124,5 @@ void SaveSettings(Launcher& launcher)
     Settings& settings = launcher.settings;
     (settings.AutoSelect ? settings.SelectedGameAutoOn : settings.SelectedGameAutoOff) =
         settings.SelectedGame;
-    WriteLines(launcher.files, ConfigPath(launcher),
-               SettingsLines(settings, !launcher.startUp.RunningUnderWine));
+    WriteLines(launcher.files, ConfigPath(launcher), SettingsLines(settings, !launcher.RunningUnderWine));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Launcher.h"
 #include "app/SettingsFile.h"
+#include "state/Launcher.h"
 
 // The settings of one run: from config.vyk at load, back to it at the end.
 
@@ -15,9 +15,8 @@ void SetConfigAside(Launcher& launcher);
 // config.vyk said up to its bad line is in the settings. Returns how far config.vyk could be read.
 ReadResult ReadStoredSettings(Launcher& launcher);
 
-// Brings settings into their range, and what depends on them: no corpse fade means no resurrection, and
-// the grenade time is 0 to 7.
-void CorrectSettings(Launcher& launcher);
+// Brings settings into their range, and what excludes one another to one of the two.
+void CorrectSettings(Settings& settings);
 
 // Reads the stored settings and corrects those out of their range. A corrupt config.vyk is set aside with
 // a message, and the launcher restarts: afterwards ShuttingDown is set. Throws FileError when it cannot be

@@ -68,7 +68,7 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
 
     startUp.WindowCaption =
         u"VYKLauncher "_s + startUp.LauncherVersion + u"  and  "_s + startUp.EngineVersion;
-    startUp.RunningUnderWine = isArgument(arguments, u"/WINE"_s);
+    launcher.RunningUnderWine = isArgument(arguments, u"/WINE"_s);
     if (isArgument(arguments, u"/RESTART"_s)) {
         services.claimInstanceWhenFree();
     } else if (!services.claimInstance()) {
@@ -150,13 +150,6 @@ QString CheckRequiredFiles(const FileSystem& files, const InstallationPaths& pat
             return name;
     }
     return {};
-}
-
-void ShutDownLauncher(Launcher& launcher)
-{
-    launcher.startUp.ShuttingDown = true;
-    launcher.window.hide();
-    launcher.window.endProgram();
 }
 
 void RestartLauncher(Launcher& launcher)

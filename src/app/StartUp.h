@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // From the process's start to the shown window.
 
@@ -28,9 +28,6 @@ QString ReadEngineVersion(const FileSystem& files, const InstallationPaths& path
 
 // The name of the first required file that is missing; empty when all are there.
 QString CheckRequiredFiles(const FileSystem& files, const InstallationPaths& paths);
-
-// Ends the launcher without saving.
-void ShutDownLauncher(Launcher& launcher);
 
 // Starts the launcher anew, past the question whether one is running. When it cannot be started there is a
 // message.

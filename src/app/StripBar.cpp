@@ -66,15 +66,15 @@ QBoxLayout* StripBar::playRow(Controls& controls, PageBinder& make, ControlBinde
     binder.bind(u"SkillFrame"_s, controls.SkillFrame, skillFrame);
 
     QBoxLayout* row = PageBinder::row({
-        make.checkBox(u"chkMain"_s, controls.chkMain, 0),
-        make.checkBox(u"ChkModelOpts"_s, controls.ChkModelOpts, 2),
-        make.checkBox(u"ChkModelOpts"_s, controls.ChkModelOpts, 3),
-        make.checkBox(u"chkMain"_s, controls.chkMain, 6),
+        make.checkBox(u"chkMain"_s, controls.chkMain, Main::BasicDoom),
+        make.checkBox(u"ChkModelOpts"_s, controls.ChkModelOpts, ModelOpts::Fx),
+        make.checkBox(u"ChkModelOpts"_s, controls.ChkModelOpts, ModelOpts::CoreEffects),
+        make.checkBox(u"chkMain"_s, controls.chkMain, Main::NoMonsters),
     });
     row->setSpacing(16);
     row->addWidget(new QLabel(u"Skill"_s));
-    row->addWidget(make.dropDown(u"SkillsLevel_0"_s, controls.SkillsLevel[0], u"Skill"_s));
-    inFrame->addWidget(make.dropDown(u"SkillsLevel_1"_s, controls.SkillsLevel[1], u"Skill"_s));
+    row->addWidget(make.dropDown(u"SkillsLevel_0"_s, controls.SkillsLevel[SkillList::Advanced], u"Skill"_s));
+    inFrame->addWidget(make.dropDown(u"SkillsLevel_1"_s, controls.SkillsLevel[SkillList::Basic], u"Skill"_s));
     row->addWidget(skillFrame);
     return row;
 }
@@ -87,18 +87,18 @@ QWidget* StripBar::commandPanel(Controls& controls, PageBinder& make, ControlBin
     QLineEdit* edit = make.textBox(u"edCustom"_s, controls.edCustom, u"Command Line"_s);
     edit->setPlaceholderText(u"Extra engine parameters"_s);
     commandRow->addWidget(edit);
-    binder.bind(u"FrameGlobal_1"_s, controls.FrameGlobal[1], commandLine);
+    binder.bind(u"FrameGlobal_1"_s, controls.FrameGlobal[Panel::CommandLine], commandLine);
 
     auto* editing = new QWidget;
     QBoxLayout* editRow = PageBinder::row({
-        make.checkBox(u"chkMain"_s, controls.chkMain, 5),
-        make.checkBox(u"chkMain"_s, controls.chkMain, 4),
-        make.checkBox(u"chkMain"_s, controls.chkMain, 3),
+        make.checkBox(u"chkMain"_s, controls.chkMain, Main::EditMode),
+        make.checkBox(u"chkMain"_s, controls.chkMain, Main::NoObjects),
+        make.checkBox(u"chkMain"_s, controls.chkMain, Main::Light),
         lightLevel(controls, make),
     });
     editRow->setContentsMargins(0, 0, 0, 0);
     editing->setLayout(editRow);
-    binder.bind(u"FrameGlobal_2"_s, controls.FrameGlobal[2], editing);
+    binder.bind(u"FrameGlobal_2"_s, controls.FrameGlobal[Panel::EditMode], editing);
 
     auto* toggle = new QToolButton;
     toggle->setAccessibleName(u"Toggle between VYK edit and the command line"_s);
@@ -119,7 +119,7 @@ QWidget* StripBar::commandPanel(Controls& controls, PageBinder& make, ControlBin
     rows->addWidget(toggle, 0, 1);
     rows->addWidget(preview, 1, 0);
     rows->addWidget(copy, 1, 1);
-    return make.frame(u"FrameGlobal_0"_s, controls.FrameGlobal[0], rows);
+    return make.frame(u"FrameGlobal_0"_s, controls.FrameGlobal[Panel::Whole], rows);
 }
 
 QWidget* StripBar::lightLevel(Controls& controls, PageBinder& make)
@@ -132,7 +132,7 @@ QWidget* StripBar::lightLevel(Controls& controls, PageBinder& make)
 
 QBoxLayout* StripBar::launchRow(Controls& controls, PageBinder& make)
 {
-    QBoxLayout* row = PageBinder::row({make.checkBox(u"chkMain"_s, controls.chkMain, 2)});
+    QBoxLayout* row = PageBinder::row({make.checkBox(u"chkMain"_s, controls.chkMain, Main::AdvancedOptions)});
     QAbstractButton* launch = make.button(u"LaunchButton"_s, controls.LaunchButton);
     launch->setMinimumSize(200, 40);
     m_launch = launch;

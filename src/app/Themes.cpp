@@ -17,7 +17,7 @@ void GetTitlePic(Launcher& launcher)
     int& index = launcher.settings.TitlePicIndex;
     if (index < 0 || index >= pictures.size())
         index = 0;
-    launcher.controls.TitlePic.text = pictures.at(index);
+    launcher.facts.titlePictures = pictures;
 }
 
 void ConnectThemes(Launcher& launcher)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The title picture: default.jpg and the other pictures of the Themes folder, one after the other.
 

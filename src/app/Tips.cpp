@@ -4,12 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr size_t tipsBox = 5; // chkLaunchPrefs
-
-} // namespace
-
 Tips::Tips(Launcher& launcher) : m_launcher(launcher)
 {
     LoadTips(launcher.paths.LaunchDataPath + u"tips.txt"_s);
@@ -51,6 +45,4 @@ QString Tips::text() const
 void Tips::showAtStartup(bool on)
 {
     m_launcher.settings.ShowTipsAtStartup = on;
-    if (!on)
-        m_launcher.controls.chkLaunchPrefs[tipsBox].setTicked(false);
 }

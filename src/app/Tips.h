@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The tips of the day: tips.txt, a tip to each line. TipNumber is the number of the one shown last, from 1.
 class Tips

@@ -1,29 +1,21 @@
 #include "app/Toolbar.h"
 
+#include "app/SettingsLoad.h"
 #include "catalogue/GameLists.h"
-#include "launch/ShellOpen.h"
-#include "launch/TextEditor.h"
+#include "catalogue/InstallGame.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
+#include "shell/ShellOpen.h"
+#include "shell/TextEditor.h"
 #include "ui/FolderQuestion.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// AuxButton; the others belong to what they start.
-enum Tool : size_t {
-    Documentation = 1,
-    EditLog = 3,
-    EngineLog = 4,
-    IwadLocations = 5,
-    Font = 6,
-    ZipFolder = 7
-};
-
 void openDocumentation(Launcher& launcher)
 {
-    QString& folder = launcher.documentationFolder;
+    QString& folder = launcher.session.documentationFolder;
     const QString path = launcher.prompts.chooseFile(
         {.title = u"Keldrax Documentation"_s,
          .filter = u"Keldrax Documentation"_s,
@@ -58,7 +50,16 @@ void chooseZipFolder(Launcher& launcher)
     } catch (const FileError&) {
         // The folder is the zip library as long as the launcher runs.
     }
-    OptionUdirClick(launcher, zipLibrary);
+    SelectView(launcher, View::ZipLibrary);
+}
+
+// What the player set is not to be lost with a game just installed; without a message, for the game is there.
+void saveQuietly(Launcher& launcher)
+{
+    try {
+        SaveSettings(launcher);
+    } catch (const FileError&) {
+    }
 }
 
 } // namespace
@@ -66,10 +67,18 @@ void chooseZipFolder(Launcher& launcher)
 void ConnectToolbar(Launcher& launcher)
 {
     auto& buttons = launcher.controls.AuxButton;
-    buttons[Documentation].clicked = [&launcher] { openDocumentation(launcher); };
-    buttons[EditLog].clicked = [&launcher] { openLog(launcher, u"edit.out"_s); };
-    buttons[EngineLog].clicked = [&launcher] { openLog(launcher, u"Keldrax.out"_s); };
-    buttons[IwadLocations].clicked = [&launcher] { launcher.window.showIwadForm(); };
-    buttons[Font].clicked = [&launcher] { launcher.window.showFontForm(); };
-    buttons[ZipFolder].clicked = [&launcher] { chooseZipFolder(launcher); };
+    buttons[Tool::Install].clicked = [&launcher] {
+        if (InstallGameFromFile(launcher))
+            saveQuietly(launcher);
+    };
+    launcher.controls.MainForm.filesDropped = [&launcher](const QStringList& paths) {
+        if (InstallDroppedFiles(launcher, paths))
+            saveQuietly(launcher);
+    };
+    buttons[Tool::Documentation].clicked = [&launcher] { openDocumentation(launcher); };
+    buttons[Tool::EditLog].clicked = [&launcher] { openLog(launcher, u"edit.out"_s); };
+    buttons[Tool::EngineLog].clicked = [&launcher] { openLog(launcher, u"Keldrax.out"_s); };
+    buttons[Tool::Iwads].clicked = [&launcher] { launcher.window.showIwadForm(); };
+    buttons[Tool::Font].clicked = [&launcher] { launcher.window.showFontForm(); };
+    buttons[Tool::ZipFolder].clicked = [&launcher] { chooseZipFolder(launcher); };
 }

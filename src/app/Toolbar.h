@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The row of tool buttons.
 void ConnectToolbar(Launcher& launcher);

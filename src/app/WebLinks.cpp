@@ -1,6 +1,6 @@
 #include "app/WebLinks.h"
 
-#include "launch/ShellOpen.h"
+#include "shell/ShellOpen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,11 +8,11 @@ namespace {
 
 const struct
 {
-    size_t picture; // Home
+    Link picture;
     const char16_t* address;
 } links[] = {
-    {0, u"https://keldrax.example/"},
-    {3, u"https://keldrax.example/downloads"},
+    {Link::Website, u"https://keldrax.example/"},
+    {Link::Downloads, u"https://keldrax.example/downloads"},
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The two links over the title picture, to the engine's place in the web.
 void ConnectWebLinks(Launcher& launcher);

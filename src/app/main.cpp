@@ -1,11 +1,12 @@
+#include "app/Connect.h"
 #include "app/MainForm.h"
+#include "app/PromptsView.h"
 #include "app/StartUp.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/FontWarmUp.h"
 #include "platform/HeapSettings.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemProcesses.h"
-#include "ui/PromptsView.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -46,7 +47,7 @@ int main(int argc, char** argv)
     SystemProcesses processes(files);
     MainForm window;
     PromptsView prompts(&window);
-    Launcher launcher(files, processes, prompts, window, root);
+    ConnectedLauncher launcher(files, processes, prompts, window, root);
     window.attach(launcher);
 
     SingleInstance instance(root);

@@ -7,10 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void reportFailure(Launcher& launcher, const FileError& error, const QString& denied)
+void reportFailure(Prompts& prompts, const FileError& error, const QString& denied)
 {
-    launcher.prompts.MsgboxPos(error.isDenied() ? denied : u"ERROR: Unknown error     "_s,
-                               Msg::Ok + Msg::Critical, u" Conversion error"_s);
+    prompts.MsgboxPos(error.isDenied() ? denied : u"ERROR: Unknown error     "_s, Msg::Ok + Msg::Critical,
+                      u" Conversion error"_s);
 }
 
 // Gives a game's folder its other name, or moves what is in it into that folder when the game has both.
@@ -34,16 +34,15 @@ void remove(FileSystem& files, const QString& folder, const QString& key, const 
 }
 
 // Only with files of other kinds beside its WADs is a game unfit to be loaded by hand.
-bool mayConvertToPwad(Launcher& launcher)
+bool mayConvertToPwad(Prompts& prompts, const QStringList& shown)
 {
     constexpr int unaskedEntries = 3;
-    const QStringList& shown = launcher.controls.PwadShowlist.entries();
     qsizetype lastWad = shown.size();
     while (lastWad > 0 && !EndsWith(shown.at(lastWad - 1), u".wad"_s))
         --lastWad;
     if (lastWad <= unaskedEntries)
         return true;
-    return launcher.prompts.MsgboxPos(
+    return prompts.MsgboxPos(
                u" Only relevant game files can be contained in an auto-loading structure,      \r\n"
                " select Yes if you still wish to convert to auto-loading or No to abort.      "_s,
                Msg::YesNo + Msg::Question, u" User Directory Conversion"_s) == Msg::ResultYes;
@@ -60,16 +59,16 @@ void ConnectConversion(Launcher& launcher)
 void ConvertToGwad(Launcher& launcher)
 {
     FileSystem& files = launcher.files;
-    const QString name = launcher.controls.PwadList.selectedName();
+    const QString name = launcher.facts.game.name;
     const QString game = launcher.paths.GamesPath + name;
     if (name.isEmpty())
         return;
     try {
-        files.remove(game + u"/Pwads/"_s + BaseNameOf(launcher.selection.SelectedGameFile) + u".vykchk"_s);
+        files.remove(game + u"/Pwads/"_s + BaseNameOf(launcher.chosenFile()) + u".vykchk"_s);
         moveFiles(files, game + u"/Pwads"_s, game + u"/Gwads"_s);
         remove(files, launcher.paths.LaunchPath + u"GameInfo/Pwads/"_s, name, u".vykm"_s);
     } catch (const FileError& error) {
-        reportFailure(launcher, error, u"Access denied: File or folder may be in use     "_s);
+        reportFailure(launcher.prompts, error, u"Access denied: File or folder may be in use     "_s);
     }
     SelectGameAgain(launcher);
 }
@@ -77,20 +76,20 @@ void ConvertToGwad(Launcher& launcher)
 void ConvertToPwad(Launcher& launcher)
 {
     FileSystem& files = launcher.files;
-    const QString name = launcher.controls.PwadList.selectedName();
+    const QString name = launcher.facts.game.name;
     const QString game = launcher.paths.GamesPath + name;
     if (name.isEmpty())
         return;
     try {
-        files.remove(game + u"/Gwads/"_s + BaseNameOf(launcher.selection.SelectedGameFile) + u".vykchk"_s);
-        if (!mayConvertToPwad(launcher))
+        files.remove(game + u"/Gwads/"_s + BaseNameOf(launcher.chosenFile()) + u".vykchk"_s);
+        if (!mayConvertToPwad(launcher.prompts, launcher.shownFiles()))
             return;
         moveFiles(files, game + u"/Gwads"_s, game + u"/Pwads"_s);
         const QString records = launcher.paths.LaunchPath + u"GameInfo/Gwads/"_s;
         remove(files, records, name, u".vykg"_s);
         remove(files, records, name, u".vykm"_s);
     } catch (const FileError& error) {
-        reportFailure(launcher, error, u"Read only error, file can't be overwritten     "_s);
+        reportFailure(launcher.prompts, error, u"Read only error, file can't be overwritten     "_s);
     }
     SelectGameAgain(launcher);
 }

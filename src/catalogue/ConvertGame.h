@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The commands that turn the selected installed game into one of the other kind. Its files are moved, each
 // in one step, so that a failure leaves every file whole in its old or its new place.

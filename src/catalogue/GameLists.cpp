@@ -1,25 +1,26 @@
 #include "catalogue/GameLists.h"
 
 #include "catalogue/GameSelection.h"
-#include "catalogue/ScriptedMapMode.h"
 #include "catalogue/ScriptedMaps.h"
-#include "options/SpriteOptions.h"
 #include "platform/Paths.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int zipLibraryButton = 7; // AuxButton
-constexpr int shortcutButton = 2;
-
-QString rememberedGame(const Launcher& launcher, int view)
+bool hasCustomZipLibrary(const FileSystem& files, const InstallationPaths& paths)
 {
-    if (view == installedGames)
-        return launcher.settings.SelectedGame;
-    return view == doomGames ? launcher.settings.SelectedDoomGame : launcher.settings.SelectedArchive;
+    return files.fileExists(paths.LaunchDataPath + u"archives.vyk"_s) &&
+           files.folderExists(paths.ArchivesPath);
+}
+
+// As the list does.
+void sortByText(QList<ListEntry>& games)
+{
+    ListBox list(ListBox::Order::Sorted);
+    list.setEntries(games);
+    for (int i = 0; i < list.count(); ++i)
+        games[i] = {list.entry(i), list.name(i)};
 }
 
 } // namespace
@@ -27,59 +28,43 @@ QString rememberedGame(const Launcher& launcher, int view)
 void ConnectGameLists(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    controls.OptionUdir.clicked = [&launcher](int view) { OptionUdirClick(launcher, view); };
-    controls.edFilter.typed = [&controls] { controls.PwadList.setFilter(controls.edFilter.text); };
+    controls.OptionUdir.clicked = [&launcher](int view) { SelectView(launcher, static_cast<View>(view)); };
+    controls.edFilter.typed = [&launcher] { launcher.selection.filter = launcher.controls.edFilter.text; };
 }
 
-void OptionUdirClick(Launcher& launcher, int view)
+void SelectView(Launcher& launcher, View view)
 {
-    Controls& controls = launcher.controls;
-    Selection& selection = launcher.selection;
-    selection.GwadSelected = selection.PwadSelected = false;
-    selection.DoomGameSelected = view == doomGames;
-    selection.ArchiveSelected = view == zipLibrary;
-    selection.ScriptedMap = false;
-    if (controls.Auto[0].caption == u"KELDRAX SCRIPTED MAP"_s)
-        RestoreSpriteOptions(launcher);
-    for (ListBox* list : {&controls.SaveGameList, &controls.PwadShowlist, &controls.MapList})
-        list->clear();
-
-    controls.OptionUdir.startAs(view);
-    for (int i = 0; i < controls.OptionUdir.count(); ++i)
-        controls.OptionUdir[i].colour = i == view ? Colour::Accent : Colour::Normal;
-
-    launcher.settings.ListMode = view;
-    controls.ImageCM.visible = ScriptedMapSwitchShown(launcher);
-    controls.AuxButton[zipLibraryButton].visible = view == zipLibrary;
-    controls.AuxButton[shortcutButton].enabled = true;
-    controls.Auto[0].caption = ListHeading(launcher, view);
-    FillGamesList(launcher, view);
-
-    controls.PwadList.select(std::max(controls.PwadList.find(rememberedGame(launcher, view)), 0));
-    controls.LaunchButton.enabled = CanLaunchSelection(launcher);
-    if (controls.PwadShowlist.isEmpty())
-        controls.AuxButton[shortcutButton].enabled = false;
+    launcher.settings.ListMode = static_cast<int>(view);
+    launcher.facts.customZipLibrary = hasCustomZipLibrary(launcher.files, launcher.paths);
+    launcher.facts.modelPacks.scriptedMapModels = ScriptedMapModelsPresent(launcher.files, launcher.paths);
+    launcher.facts.games = GamesOf(launcher, view);
+    const QList<ListEntry>& games = launcher.facts.games;
+    const ListEntry remembered = FindGame(games, SelectedNameOf(launcher.settings, view));
+    if (!remembered.name.isEmpty())
+        SelectGame(launcher, remembered.name);
+    else if (!games.isEmpty())
+        SelectGame(launcher, games.first().name);
+    else
+        DeselectGame(launcher);
 }
 
 void ShowInstalledGame(Launcher& launcher, const QString& name)
 {
-    launcher.controls.edFilter.text.clear();
-    launcher.controls.PwadList.setFilter({});
+    launcher.selection.filter.clear();
     launcher.settings.SelectedGame = name;
-    OptionUdirClick(launcher, installedGames);
+    SelectView(launcher, View::InstalledGames);
 }
 
-void FillGamesList(Launcher& launcher, int view)
+QList<ListEntry> GamesOf(Launcher& launcher, View view)
 {
-    if (view == installedGames)
-        FillInstalledGamesList(launcher);
-    else if (view == doomGames)
-        FillDoomGamesList(launcher);
-    else
-        FillArchiveList(launcher, launcher.paths.ArchivesPath);
+    if (view == View::InstalledGames)
+        return FillInstalledGamesList(launcher);
+    if (view == View::DoomGames)
+        return FillDoomGamesList(launcher.facts.iwads, launcher.font.CustomFontOn);
+    return FillArchiveList(launcher.files, launcher.paths.ArchivesPath, launcher.font.CustomFontOn);
 }
 
-void FillInstalledGamesList(Launcher& launcher)
+QList<ListEntry> FillInstalledGamesList(const Launcher& launcher)
 {
     // Without the maps' models there is no switch to leave the mode by.
     const bool scriptedOnly =
@@ -88,48 +73,45 @@ void FillInstalledGamesList(Launcher& launcher)
     for (const QString& name :
          launcher.files.foldersHolding(launcher.paths.GamesPath, {u"Pwads"_s, u"Gwads"_s}))
         if (!scriptedOnly || IsScriptedMap(launcher.files, launcher.paths, name).isScriptedMap)
-            games << ListEntry{ListedGameName(launcher, name), name};
-    launcher.controls.PwadList.setEntries(games);
+            games << ListEntry{launcher.font.CustomFontOn ? name : name.toUpper(), name};
+    sortByText(games);
+    return games;
 }
 
-void FillDoomGamesList(Launcher& launcher)
+QList<ListEntry> FillDoomGamesList(const IwadPaths& iwads, bool customFontOn)
 {
-    launcher.controls.PwadList.clear();
-    for (const QString& title : DoomGameTitles(launcher.iwads, launcher.font.CustomFontOn))
-        launcher.controls.PwadList.add(title);
+    QList<ListEntry> games;
+    for (const GameFamilyRow& row : GameFamilies)
+        if (!iwads.of(row.family).isEmpty()) {
+            const QString title = DisplayTitle(row.family, customFontOn);
+            games << ListEntry{title, title};
+        }
+    sortByText(games);
+    return games;
 }
 
-void FillArchiveList(Launcher& launcher, const QString& folder)
+QList<ListEntry> FillArchiveList(FileSystem& files, const QString& folder, bool customFontOn)
 {
     try {
-        launcher.files.createFolder(folder);
+        files.createFolder(folder);
     } catch (const FileError&) {
         // A library that cannot be there lists nothing.
     }
     QList<ListEntry> games;
-    for (const QString& name : launcher.files.files(folder))
-        if (EndsWith(name, u".zip"_s))
-            games << ListEntry{ListedArchiveName(launcher, BaseNameOf(name)), BaseNameOf(name)};
-    launcher.controls.PwadList.setEntries(games);
+    for (const QString& file : files.files(folder)) {
+        const QString name = BaseNameOf(file);
+        if (EndsWith(file, u".zip"_s))
+            games << ListEntry{customFontOn ? name.left(1).toUpper() + name.mid(1) : name.toUpper(), name};
+    }
+    sortByText(games);
+    return games;
 }
 
-QString ListedGameName(const Launcher& launcher, const QString& name)
+ListEntry FindGame(const QList<ListEntry>& games, const QString& name)
 {
-    return launcher.font.CustomFontOn ? name : name.toUpper();
-}
-
-QString ListedArchiveName(const Launcher& launcher, const QString& name)
-{
-    return launcher.font.CustomFontOn ? name.left(1).toUpper() + name.mid(1) : name.toUpper();
-}
-
-QString ListHeading(const Launcher& launcher, int view)
-{
-    if (view == installedGames)
-        return u"INSTALLED GAMES LIST"_s;
-    if (view == doomGames)
-        return u"COMMERCIAL DOOM LIST"_s;
-    const bool custom = launcher.files.fileExists(launcher.paths.LaunchDataPath + u"archives.vyk"_s) &&
-                        launcher.files.folderExists(launcher.paths.ArchivesPath);
-    return custom ? u"CUSTOM ZIP LIBRARY"_s : u"ZIP LIBRARY"_s;
+    for (const auto part : {&ListEntry::name, &ListEntry::text})
+        for (const ListEntry& game : games)
+            if (SameName(game.*part, name))
+                return game;
+    return {};
 }

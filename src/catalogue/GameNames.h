@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "ui/Prompts.h"
 
 #include <optional>
 
@@ -13,7 +13,7 @@ struct IllegalName
 
 // Asks for a game's name; nothing when the player cancels, leaves it empty, or gives one that no folder or
 // file can have on every system, which has its message. Blanks around it are dropped.
-std::optional<QString> AskGameName(Launcher& launcher, const NameQuestion& question,
+std::optional<QString> AskGameName(Prompts& prompts, const NameQuestion& question,
                                    const IllegalName& illegal);
 
-void ReportIllegalName(Launcher& launcher, const IllegalName& illegal);
+void ReportIllegalName(Prompts& prompts, const IllegalName& illegal);

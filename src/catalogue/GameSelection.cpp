@@ -1,19 +1,15 @@
 #include "catalogue/GameSelection.h"
 
-#include "catalogue/GameLists.h"
-#include "catalogue/GameRecords.h"
 #include "catalogue/ScriptedMaps.h"
 #include "catalogue/ZipLibrary.h"
-#include "launch/ShellOpen.h"
-#include "launch/TextEditor.h"
-#include "options/GraphicsOptions.h"
-#include "options/SpriteOptions.h"
-#include "platform/FileNames.h"
 #include "platform/Paths.h"
+#include "records/GameRecords.h"
 #include "savegames/SaveGames.h"
+#include "shell/ShellOpen.h"
+#include "shell/TextEditor.h"
+#include "start/Start.h"
 #include "wad/GameFiles.h"
 #include "wad/MainWad.h"
-#include "wad/MapList.h"
 #include "wad/ToolBridge.h"
 
 #include <algorithm>
@@ -24,154 +20,99 @@ namespace {
 
 constexpr const char16_t* textLumps[] = {u"sndinfo", u"dd_defns", u"scp_zoff", u"scp_defn"};
 
-// Where the engine keeps the savegames of a WAD, or of a family; empty for a name that would lead elsewhere.
-QString savegameFolder(const Launcher& launcher, const QString& name)
-{
-    if (!IsUsableName(name))
-        return {};
-    return launcher.paths.RootPath + u"/UserSG/"_s + name + u"/savegame"_s;
-}
-
-void listFiles(Launcher& launcher, const QStringList& names)
-{
-    launcher.selection.SelectedGameFile.clear();
-    launcher.controls.PwadShowlist.clear();
-    for (const QString& name : names)
-        launcher.controls.PwadShowlist.add(name);
-}
-
-// Lists a game's files; none is chosen yet.
-void showGameFolder(Launcher& launcher, const QString& folder)
-{
-    launcher.selection.SelectedGameFolder = folder;
-    launcher.selection.SaveGameFolder.clear();
-    launcher.controls.MapList.clear();
-    launcher.controls.SaveGameList.clear();
-    listFiles(launcher, GameFilesOf(launcher.files, folder, launcher.settings.WadFilesOnly));
-}
-
-void doomGameClicked(Launcher& launcher, const QString& title)
+GameFacts doomGame(const Launcher& launcher, const QString& title)
 {
     const std::optional<GameFamily> family = FamilyOfTitle(title);
-    if (!family)
-        return;
-    Selection& selection = launcher.selection;
-    const QString iwad = launcher.iwads.of(*family);
-    selection.DoomGameSelected = true;
-    launcher.controls.MainForm.saveGamesTall = true;
-    launcher.settings.SelectedDoomGame = title;
-    selection.SaveGameFolder = savegameFolder(launcher, QString::fromUtf16(RowOf(*family).key));
-    selection.SelectedWadPath = iwad;
-    selection.SelectedGameFolder = FolderOf(iwad) + u'/';
-    listFiles(launcher, {FileNameOf(iwad)});
-    launcher.controls.PwadShowlist.select(0);
+    const QString iwad = family ? launcher.facts.iwads.of(*family) : QString();
+    if (iwad.isEmpty())
+        return {};
+    return {.kind = GameKind::Doom,
+            .name = title,
+            .folder = FolderOf(iwad) + u'/',
+            .files = {FileNameOf(iwad)},
+            .scriptedMap = {}};
 }
 
-void installedGameClicked(Launcher& launcher, const QString& name)
+GameFacts installedGame(const Launcher& launcher, const QString& name)
 {
-    constexpr int manyFiles = 5;
-    Selection& selection = launcher.selection;
-    ClassifySelectedGame(launcher, name);
-    const bool scripted =
-        selection.PwadSelected && IsScriptedMap(launcher.files, launcher.paths, name).isScriptedMap;
-    launcher.controls.Auto[0].caption =
-        scripted ? u"KELDRAX SCRIPTED MAP"_s : ListHeading(launcher, installedGames);
-    launcher.settings.SelectedGame = name;
-    (selection.GwadSelected ? selection.SelectedGwadGame : selection.SelectedPwadGame) = name;
-    const QString folder =
-        launcher.paths.GamesPath + name + (selection.GwadSelected ? u"/Gwads"_s : u"/Pwads"_s);
+    const QString game = launcher.paths.GamesPath + name;
+    const bool isGwad = launcher.files.folderExists(game + u"/Gwads"_s);
+    const QString folder = game + (isGwad ? u"/Gwads"_s : u"/Pwads"_s);
     const QString onDisk = launcher.files.actualPath(folder); // empty when it has gone meanwhile
-    showGameFolder(launcher, (onDisk.isEmpty() ? folder : onDisk) + u'/');
-    launcher.controls.MainForm.saveGamesTall =
-        !selection.GwadSelected && launcher.controls.PwadShowlist.count() < manyFiles;
-    if (selection.GwadSelected)
-        RestoreGwadFile(launcher, name);
-    else
-        ChooseMainWad(launcher, selection.SelectedGameFolder);
+    GameFacts facts{.kind = isGwad ? GameKind::Gwad : GameKind::Pwad,
+                    .name = name,
+                    .folder = (onDisk.isEmpty() ? folder : onDisk) + u'/',
+                    .files = {},
+                    .scriptedMap = {}};
+    facts.files = GameFilesOf(launcher.files, facts.folder);
+    if (!isGwad)
+        facts.scriptedMap = IsScriptedMap(launcher.files, launcher.paths, name);
+    return facts;
 }
 
-void archiveClicked(Launcher& launcher, const QString& name)
+GameFacts archive(Launcher& launcher, const QString& name)
 {
-    launcher.controls.MainForm.saveGamesTall = false;
-    launcher.settings.SelectedArchive = name;
-    const bool opened = OpenArchive(launcher, name);
-    showGameFolder(launcher, ZipFolder(launcher.paths));
-    if (opened)
-        ChooseMainWad(launcher, launcher.selection.SelectedGameFolder);
-    else // whatever may be left there is not this zip's
-        launcher.controls.PwadShowlist.clear();
+    const QString folder = ZipFolder(launcher.paths);
+    GameFacts facts{
+        .kind = GameKind::Archive, .name = name, .folder = folder, .files = {}, .scriptedMap = {}};
+    if (OpenArchive(launcher, name)) // else whatever may be left there is not this zip's
+        facts.files = GameFilesOf(launcher.files, folder);
+    return facts;
 }
 
-void gameClicked(Launcher& launcher)
+GameFacts readGame(Launcher& launcher, const QString& name)
 {
-    const QString name = launcher.controls.PwadList.selectedName();
-    if (name.isEmpty())
-        return;
-    if (launcher.controls.chkAutoSelect.ticked())
-        launcher.settings.SelectedGameAutoOn = name;
-    switch (launcher.settings.ListMode) {
-    case installedGames:
-        installedGameClicked(launcher, name);
-        break;
-    case doomGames:
-        doomGameClicked(launcher, name);
-        break;
+    switch (launcher.view()) {
+    case View::InstalledGames:
+        return installedGame(launcher, name);
+    case View::DoomGames:
+        return doomGame(launcher, name);
     default:
-        archiveClicked(launcher, name);
-        break;
+        return archive(launcher, name);
     }
-    RestoreLastSavegame(launcher);
-    launcher.controls.LaunchButton.enabled = CanLaunchSelection(launcher);
 }
 
-// A scripted map brings its own sprites and graphics.
-void allowOptions(Launcher& launcher)
+void readFile(Launcher& launcher)
 {
-    Selection& selection = launcher.selection;
-    selection.ScriptedMap = false;
-    if (launcher.settings.ListMode == installedGames) {
-        const ScriptedMapCheck map = selection.PwadSelected ? IsScriptedMap(launcher.files, launcher.paths,
-                                                                            launcher.settings.SelectedGame)
-                                                            : ScriptedMapCheck();
-        selection.ScriptedMap = map.isScriptedMap && map.isComplete;
-        map.isScriptedMap ? KillSpriteOptions(launcher) : RestoreSpriteOptions(launcher);
-    }
-    GreyHiresFrame(launcher);
+    FileFacts& file = launcher.facts.file;
+    file = {};
+    const QString path = launcher.SelectedGameFile();
+    if (path.isEmpty())
+        return;
+    file.maps = ListWadMaps(launcher, path);
+    file.compatibility = CheckPwad(launcher.files, launcher.paths, path);
+    file.isOutdated = CheckScriptedMapDate(launcher.files, path);
+    ListSaveGames(launcher);
+}
+
+// The file that a game is selected with.
+QString usualFile(Launcher& launcher)
+{
+    const GameFacts& game = launcher.facts.game;
+    if (game.kind == GameKind::Gwad)
+        return GameRecords(launcher.files, launcher.paths, launcher).gwadFile();
+    return game.kind == GameKind::Doom ? game.files.value(0) : ChooseMainWad(launcher, game);
 }
 
 void gameFileClicked(Launcher& launcher)
 {
-    Selection& selection = launcher.selection;
-    selection.SelectedGameFile = selection.SelectedGameFolder + launcher.controls.PwadShowlist.selectedText();
-    if (!selection.DoomGameSelected)
-        selection.SaveGameFolder = savegameFolder(launcher, BaseNameOf(selection.SelectedGameFile));
-    allowOptions(launcher);
-    ListWadMaps(launcher, selection.SelectedGameFile);
-    ListSaveGames(launcher);
-    if (launcher.launch.StartChoice != StartChoice::NewGame)
-        SelectStartMap(launcher);
-    launcher.controls.LaunchButton.enabled = CanLaunchSelection(launcher);
-}
-
-void gameFilePicked(Launcher& launcher)
-{
-    if (launcher.selection.GwadSelected && EndsWith(launcher.controls.PwadShowlist.selectedText(), u".wad"_s))
-        SaveGwadSelection(launcher, launcher.selection.SelectedGwadGame);
+    SelectFile(launcher, launcher.controls.PwadShowlist.selectedText());
+    if (launcher.gameIs(GameKind::Gwad) && !launcher.chosenWadName().isEmpty())
+        GameRecords(launcher.files, launcher.paths, launcher).SaveGwadSelection();
 }
 
 void gameFileDoubleClicked(Launcher& launcher)
 {
-    const QString name = launcher.controls.PwadShowlist.selectedText();
-    const QString path = launcher.selection.SelectedGameFolder + name;
+    const QString name = launcher.chosenFile();
     if (name.isEmpty())
         return;
     // Texts without an ending, by which nothing but a text editor is found.
     const bool isText = std::ranges::any_of(
         textLumps, [&](const char16_t* lump) { return SameName(name, QString::fromUtf16(lump)); });
     if (isText)
-        OpenInTextEditor(launcher, path);
+        OpenInTextEditor(launcher, launcher.SelectedGameFile());
     else
-        ShellOpen(launcher.prompts, path);
+        ShellOpen(launcher.prompts, launcher.SelectedGameFile());
 }
 
 } // namespace
@@ -179,45 +120,65 @@ void gameFileDoubleClicked(Launcher& launcher)
 void ConnectGameSelection(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    controls.PwadList.clicked = [&launcher] { gameClicked(launcher); };
+    controls.PwadList.clicked = [&launcher] {
+        SelectGame(launcher, launcher.controls.PwadList.selectedName());
+    };
     controls.PwadShowlist.clicked = [&launcher] { gameFileClicked(launcher); };
-    controls.PwadShowlist.chosen = [&launcher] { gameFilePicked(launcher); };
     controls.PwadShowlist.doubleClicked = [&launcher] { gameFileDoubleClicked(launcher); };
+}
+
+void SelectGame(Launcher& launcher, const QString& name)
+{
+    SelectedNameOf(launcher.settings, launcher.view()) = name;
+    if (launcher.settings.AutoSelect)
+        launcher.settings.SelectedGameAutoOn = name;
+    launcher.facts.game = readGame(launcher, name);
+    SelectFile(launcher, usualFile(launcher));
+    RestoreLastSavegame(launcher);
 }
 
 void SelectGameAgain(Launcher& launcher)
 {
-    launcher.controls.PwadList.clicked();
+    if (!launcher.gameIs(GameKind::None))
+        SelectGame(launcher, SelectedNameOf(launcher.settings, launcher.view()));
 }
 
-void ShowSelectedGameAnew(Launcher& launcher)
+void DeselectGame(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
-    if (controls.PwadList.selected() < 0)
+    launcher.facts.game = {};
+    SelectFile(launcher, {});
+}
+
+void SelectFile(Launcher& launcher, const QString& name)
+{
+    Selection& selection = launcher.selection;
+    selection.file = name;
+    selection.map.clear();
+    selection.SaveSlot.clear();
+    readFile(launcher);
+    SetMapFocus(launcher);
+}
+
+void ReadSelectedGame(Launcher& launcher)
+{
+    if (launcher.gameIs(GameKind::None))
         return;
-    const QString file = controls.PwadShowlist.selectedText();
-    const QString map = controls.MapList.selectedText();
-    const QString savegame = controls.SaveGameList.selectedText();
-    SelectGameAgain(launcher);
-    controls.PwadShowlist.select(controls.PwadShowlist.find(file));
-    controls.MapList.select(controls.MapList.find(map));
-    controls.SaveGameList.select(controls.SaveGameList.find(savegame));
+    launcher.facts.game = readGame(launcher, launcher.facts.game.name);
+    if (launcher.chosenFile().isEmpty() && !launcher.gameIs(GameKind::Gwad))
+        launcher.selection.file = usualFile(launcher);
+    readFile(launcher);
+    RefreshSaveGames(launcher);
+    SetMapFocus(launcher);
 }
 
-void ClassifySelectedGame(Launcher& launcher, const QString& name)
+QString& SelectedNameOf(Settings& settings, View view)
 {
-    launcher.selection.GwadSelected =
-        launcher.files.folderExists(launcher.paths.GamesPath + name + u"/Gwads"_s);
-    launcher.selection.PwadSelected = !launcher.selection.GwadSelected;
+    if (view == View::InstalledGames)
+        return settings.SelectedGame;
+    return view == View::DoomGames ? settings.SelectedDoomGame : settings.SelectedArchive;
 }
 
-bool CanLaunchSelection(const Launcher& launcher)
+const QString& SelectedNameOf(const Settings& settings, View view)
 {
-    return launcher.controls.PwadShowlist.selected() >= 0 && launcher.controls.OptionTabs.selected() == 0;
-}
-
-QString ChosenWadName(const Launcher& launcher)
-{
-    const QString& file = launcher.selection.SelectedGameFile;
-    return EndsWith(file, u".wad"_s) ? BaseNameOf(file) : QString();
+    return SelectedNameOf(const_cast<Settings&>(settings), view);
 }

@@ -1,22 +1,26 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
-// What selecting a game, and one of its files, does to the lists beside it.
+// What selecting a game, and one of its files, means.
 void ConnectGameSelection(Launcher& launcher);
 
-// Selects the selected game anew, after its files changed.
+// Selects a game of the view by its name on disk, with the main WAD of its files, or the file of a Gwad game
+// that was chosen last; then with the map or savegame that is remembered.
+void SelectGame(Launcher& launcher, const QString& name);
+
+// The same with the selected game, after its files changed.
 void SelectGameAgain(Launcher& launcher);
 
-// The same, with the file, map and savegame that were chosen, as far as they are still there.
-void ShowSelectedGameAnew(Launcher& launcher);
+// Nothing is selected: the view has no game.
+void DeselectGame(Launcher& launcher);
 
-// Whether the installed game `name` loads its files itself (GwadSelected) or not (PwadSelected).
-void ClassifySelectedGame(Launcher& launcher, const QString& name);
+// Chooses one of the selected game's files, and the map to start at.
+void SelectFile(Launcher& launcher, const QString& name);
 
-// Whether the current selection can be launched.
-bool CanLaunchSelection(const Launcher& launcher);
+// Reads the selected game and its chosen file anew; what was chosen stays chosen as far as it is there.
+void ReadSelectedGame(Launcher& launcher);
 
-// The base name of the selected game's chosen WAD, under which the engine and the installation keep what
-// belongs to it; empty when no WAD is chosen: a text that happens to have another WAD's name is none.
-QString ChosenWadName(const Launcher& launcher);
+// The name of the game that is, or was, selected in a view.
+QString& SelectedNameOf(Settings& settings, View view);
+const QString& SelectedNameOf(const Settings& settings, View view);

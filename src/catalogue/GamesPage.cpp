@@ -21,15 +21,15 @@ QVBoxLayout* newColumn()
     return column;
 }
 
-QLabel* heading(Controls& controls, ControlBinder& binder, int index)
+QLabel* heading(Controls& controls, ControlBinder& binder, Heading which)
 {
-    Button& control = controls.Auto[static_cast<size_t>(index)];
+    Button& control = controls.Auto[which];
     auto* label = new HeadingView;
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
     label->setMinimumHeight(20);
-    binder.bind(NameOf(u"Auto"_s, index), control, label);
+    binder.bind(NameOf(u"Auto"_s, static_cast<int>(which)), control, label);
     QObject::connect(label, &HeadingView::clicked, &binder, [&binder, &control] {
         if (control.clicked)
             binder.run(control.clicked);
@@ -43,7 +43,7 @@ QBoxLayout* gamesHeading(Controls& controls, ControlBinder& binder)
     auto* scriptedMaps = new QToolButton;
     binder.bind(u"ImageCM"_s, controls.ImageCM, scriptedMaps);
     auto* row = new QHBoxLayout;
-    row->addWidget(heading(controls, binder, 0), 1);
+    row->addWidget(heading(controls, binder, Heading::Games), 1);
     row->addWidget(scriptedMaps);
     return row;
 }
@@ -106,9 +106,9 @@ QBoxLayout* GamesPage::filesColumn(Controls& controls, ControlBinder& binder)
     ListView* saves =
         list(binder, controls.SaveGameList, u"SaveGameList"_s, u"Savegames"_s, u"No savegames yet"_s);
     auto* column = newColumn();
-    column->addWidget(heading(controls, binder, 1));
+    column->addWidget(heading(controls, binder, Heading::Files));
     column->addWidget(files);
-    column->addWidget(heading(controls, binder, 3));
+    column->addWidget(heading(controls, binder, Heading::SaveGames));
     column->addWidget(saves);
     connect(&binder, &ControlBinder::written, this, [&controls, column, files, saves] {
         const bool tall = controls.MainForm.saveGamesTall;
@@ -121,7 +121,7 @@ QBoxLayout* GamesPage::filesColumn(Controls& controls, ControlBinder& binder)
 QBoxLayout* GamesPage::mapsColumn(Controls& controls, ControlBinder& binder)
 {
     auto* column = newColumn();
-    column->addWidget(heading(controls, binder, 2));
+    column->addWidget(heading(controls, binder, Heading::Maps));
     column->addWidget(list(binder, controls.MapList, u"MapList"_s, u"Maps"_s, u"No maps"_s));
     return column;
 }

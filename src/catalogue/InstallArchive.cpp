@@ -36,9 +36,9 @@ std::optional<QString> askInstallName(Launcher& launcher, const QString& caption
     const QString archive = launcher.settings.SelectedArchive;
     if (!OpenArchive(launcher, archive))
         return std::nullopt;
-    const std::optional<QString> name =
-        AskGameName(launcher, {.caption = caption, .frame = frame, .button = u"OK"_s, .name = archive},
-                    {.title = conversionError});
+    const std::optional<QString> name = AskGameName(
+        launcher.prompts, {.caption = caption, .frame = frame, .button = u"OK"_s, .name = archive},
+        {.title = conversionError});
     // Another launcher may have put another zip into the folder meanwhile.
     return name && OpenArchive(launcher, archive) ? name : std::nullopt;
 }
@@ -49,13 +49,13 @@ bool isEmptyFolder(const FileSystem& files, const QString& folder)
 }
 
 // Whether a game may take the place of what has its name now.
-bool mayReplace(Launcher& launcher, const QString& name)
+bool mayReplace(Prompts& prompts, const QString& name)
 {
     const QString question = u" WARNING: A manual-loading structure already exists in "_s + name +
                              u"     \r\n selecting Yes will delete all the existing files contained in this "
                              "folder.     "_s;
-    return launcher.prompts.MsgboxPos(question, Msg::YesNo + Msg::Question,
-                                      u" User Directory Conversion"_s) == Msg::ResultYes;
+    return prompts.MsgboxPos(question, Msg::YesNo + Msg::Question, u" User Directory Conversion"_s) ==
+           Msg::ResultYes;
 }
 
 } // namespace
@@ -79,7 +79,7 @@ void InstallArchiveAsPwad(Launcher& launcher)
         return;
     }
     const bool exists = launcher.files.folderExists(game);
-    if (exists && !isEmptyFolder(launcher.files, game) && !mayReplace(launcher, *name))
+    if (exists && !isEmptyFolder(launcher.files, game) && !mayReplace(launcher.prompts, *name))
         return;
     try {
         GameStaging staging(launcher.files, launcher.paths.GamesPath);
@@ -108,6 +108,5 @@ void InstallArchiveAsGwad(Launcher& launcher)
     const auto fill = [&launcher](GameStaging& staging) { return fillFromZipFolder(launcher, staging); };
     if (InstallAsGwad(launcher, *name, fill) != Installed::Done)
         return;
-    launcher.selection.SelectedGwadGame = *name;
     ShowInstalledGame(launcher, *name);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The commands by which the zip library's selected game becomes an installed one.
 void ConnectArchiveInstallation(Launcher& launcher);

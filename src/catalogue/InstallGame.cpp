@@ -1,7 +1,5 @@
 #include "catalogue/InstallGame.h"
 
-#include "app/SettingsControls.h"
-#include "app/SettingsLoad.h"
 #include "catalogue/GameLists.h"
 #include "catalogue/GameNames.h"
 #include "catalogue/GameStaging.h"
@@ -39,53 +37,39 @@ bool fillFromFile(Launcher& launcher, GameStaging& staging, const QString& path)
 }
 
 // Whether a file is one that can be installed under its name.
-Installed checkFile(Launcher& launcher, const QString& path)
+Installed checkFile(Prompts& prompts, const QString& path)
 {
     if (!isWad(path) && !isZip(path))
         return Installed::NotAGame;
     if (IsUsableName(BaseNameOf(path)) && !IsReservedGameName(BaseNameOf(path)))
         return Installed::Done;
-    ReportIllegalName(launcher, {.title = installError});
+    ReportIllegalName(prompts, {.title = installError});
     return Installed::Refused;
 }
 
-void reportFailure(Launcher& launcher, const FileError& error)
+void reportFailure(Prompts& prompts, const FileError& error)
 {
     const QString text = error.isDenied() ? u" Read only error, file can't be overwritten      "_s
                                           : u" Unknown error, Pwad can not be installed      "_s;
-    launcher.prompts.MsgboxPos(text, Msg::Ok + Msg::Information, installError);
+    prompts.MsgboxPos(text, Msg::Ok + Msg::Information, installError);
 }
 
-// Remembers the folder, and what else the player set, without a message: the game is there either way.
+// Without a message: the game is there either way.
 void rememberFolder(Launcher& launcher)
 {
     try {
         WriteLines(launcher.files, launcher.paths.LaunchDataPath + u"pwads.vyk"_s,
-                   {NativePath(launcher.selection.LastInstallFolder)});
-    } catch (const FileError&) {
-    }
-    try {
-        ReadControlsToSettings(launcher.settings, launcher.controls);
-        SaveSettings(launcher);
+                   {NativePath(launcher.session.LastInstallFolder)});
     } catch (const FileError&) {
     }
 }
 
 } // namespace
 
-void ConnectInstallation(Launcher& launcher)
+bool InstallGameFromFile(Launcher& launcher)
 {
-    constexpr size_t installButton = 0; // AuxButton
-    launcher.controls.AuxButton[installButton].clicked = [&launcher] { InstallGameFromFile(launcher); };
-    launcher.controls.MainForm.filesDropped = [&launcher](const QStringList& paths) {
-        InstallDroppedFiles(launcher, paths);
-    };
-}
-
-void InstallGameFromFile(Launcher& launcher)
-{
-    QString& LastInstallFolder = launcher.selection.LastInstallFolder;
-    LastInstallFolder = LoadLastInstallFolder(launcher);
+    QString& LastInstallFolder = launcher.session.LastInstallFolder;
+    LastInstallFolder = LoadLastInstallFolder(launcher.files, launcher.paths);
     if (LastInstallFolder.isEmpty())
         LastInstallFolder = launcher.paths.ArchivesPath;
     const QString path = launcher.prompts.chooseFile({.title = u"Install a wad file to the Games List"_s,
@@ -96,29 +80,31 @@ void InstallGameFromFile(Launcher& launcher)
         LastInstallFolder = FolderOf(path);
     const Installed installed = path.isEmpty() ? Installed::NotAGame : InstallPwadGame(launcher, path);
     if (installed == Installed::Refused)
-        return;
+        return false;
     rememberFolder(launcher);
     if (installed == Installed::Done)
         ShowInstalledGame(launcher, BaseNameOf(path));
+    return true;
 }
 
-void InstallDroppedFiles(Launcher& launcher, const QStringList& paths)
+bool InstallDroppedFiles(Launcher& launcher, const QStringList& paths)
 {
     QString last;
     for (const QString& path : paths)
         if (InstallPwadGame(launcher, path) == Installed::Done)
             last = path;
     if (last.isEmpty())
-        return;
-    launcher.selection.LastInstallFolder = FolderOf(last);
+        return false;
+    launcher.session.LastInstallFolder = FolderOf(last);
     rememberFolder(launcher);
     ShowInstalledGame(launcher, BaseNameOf(last));
+    return true;
 }
 
 Installed InstallPwadGame(Launcher& launcher, const QString& path)
 {
     const QString name = BaseNameOf(path);
-    if (const Installed checked = checkFile(launcher, path); checked != Installed::Done)
+    if (const Installed checked = checkFile(launcher.prompts, path); checked != Installed::Done)
         return checked;
     if (!launcher.files.actualPath(launcher.paths.GamesPath + name).isEmpty()) {
         launcher.prompts.MsgboxPos(u"  WARNING: '"_s + name + u"' already exists in the   \r\n"_s +
@@ -134,14 +120,14 @@ Installed InstallPwadGame(Launcher& launcher, const QString& path)
         staging.placeAsNewGame();
         return Installed::Done;
     } catch (const FileError& error) {
-        reportFailure(launcher, error);
+        reportFailure(launcher.prompts, error);
         return Installed::Refused;
     }
 }
 
 Installed InstallGwadGame(Launcher& launcher, const QString& path)
 {
-    if (const Installed checked = checkFile(launcher, path); checked != Installed::Done)
+    if (const Installed checked = checkFile(launcher.prompts, path); checked != Installed::Done)
         return checked;
     return InstallAsGwad(launcher, BaseNameOf(path),
                          [&](GameStaging& staging) { return fillFromFile(launcher, staging, path); });
@@ -186,14 +172,14 @@ Installed InstallAsGwad(Launcher& launcher, const QString& name,
     return Installed::Done;
 }
 
-QString LoadLastInstallFolder(const Launcher& launcher)
+QString LoadLastInstallFolder(const FileSystem& files, const InstallationPaths& paths)
 {
-    const QString record = launcher.paths.LaunchDataPath + u"pwads.vyk"_s;
+    const QString record = paths.LaunchDataPath + u"pwads.vyk"_s;
     try {
-        if (!launcher.files.fileExists(record))
+        if (!files.fileExists(record))
             return {};
-        const QString folder = WithSlashes(FirstField(ReadLines(launcher.files, record).value(0)));
-        return launcher.files.folderExists(folder) ? folder : QString();
+        const QString folder = WithSlashes(FirstField(ReadLines(files, record).value(0)));
+        return files.folderExists(folder) ? folder : QString();
     } catch (const FileError&) {
         return {};
     }

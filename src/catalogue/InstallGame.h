@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Launcher.h"
 #include "catalogue/GameStaging.h"
+#include "state/Launcher.h"
 
 #include <QStringList>
 
@@ -13,13 +13,12 @@ enum class Installed {
     NotAGame, // neither a .wad nor a .zip
 };
 
-void ConnectInstallation(Launcher& launcher);
+// The toolbar's command: asks for a .wad or .zip file and installs it as a PWAD game. False when that was
+// refused.
+bool InstallGameFromFile(Launcher& launcher);
 
-// The toolbar's command: asks for a .wad or .zip file and installs it as a PWAD game.
-void InstallGameFromFile(Launcher& launcher);
-
-// What is dropped on the window; files that are no game are left out.
-void InstallDroppedFiles(Launcher& launcher, const QStringList& paths);
+// What is dropped on the window; files that are no game are left out. False when nothing was installed.
+bool InstallDroppedFiles(Launcher& launcher, const QStringList& paths);
 
 // Installs one file under its base name: as a PWAD game, which must be new, or as a Gwad game, to which the
 // files are added when there is one. Selects nothing.
@@ -32,4 +31,4 @@ Installed InstallAsGwad(Launcher& launcher, const QString& name,
                         const std::function<bool(GameStaging&)>& fill);
 
 // Reads the folder of the file installed last; empty when there is none.
-QString LoadLastInstallFolder(const Launcher& launcher);
+QString LoadLastInstallFolder(const FileSystem& files, const InstallationPaths& paths);

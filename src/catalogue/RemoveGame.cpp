@@ -3,11 +3,12 @@
 #include "catalogue/GameLists.h"
 #include "catalogue/GameSelection.h"
 #include "catalogue/Leftovers.h"
-#include "catalogue/RecordRemoval.h"
 #include "catalogue/ZipLibrary.h"
 #include "platform/FileLock.h"
 #include "platform/FileNames.h"
 #include "platform/Paths.h"
+#include "records/RecordRemoval.h"
+#include "shell/DeleteShortcuts.h"
 
 #include <algorithm>
 
@@ -17,46 +18,38 @@ namespace {
 
 const QString accessError = u" Access error"_s;
 
-bool confirmed(Launcher& launcher, const QString& text, const QString& title)
+bool confirmed(Prompts& prompts, const QString& text, const QString& title)
 {
-    return launcher.prompts.MsgboxPos(text, Msg::YesNo + Msg::Question, title) == Msg::ResultYes;
+    return prompts.MsgboxPos(text, Msg::YesNo + Msg::Question, title) == Msg::ResultYes;
 }
 
-void reportAccessError(Launcher& launcher, const QString& text)
+void reportAccessError(Prompts& prompts, const QString& text)
 {
-    launcher.prompts.MsgboxPos(text, Msg::Ok + Msg::Exclamation, accessError);
+    prompts.MsgboxPos(text, Msg::Ok + Msg::Exclamation, accessError);
 }
 
-void reportPartlyRemoved(Launcher& launcher)
+void reportPartlyRemoved(Prompts& prompts)
 {
-    reportAccessError(launcher, u"Unable to fully remove the selected item from the games list,       \r\n"
-                                "associated files or folders may be in use by another program."_s);
+    reportAccessError(prompts, u"Unable to fully remove the selected item from the games list,       \r\n"
+                               "associated files or folders may be in use by another program."_s);
 }
 
-// The path of the entry chosen in the game files list; empty when none is.
-QString chosenListFile(const Launcher& launcher)
-{
-    const QString name = launcher.controls.PwadShowlist.selectedText();
-    return name.isEmpty() ? QString() : launcher.selection.SelectedGameFolder + name;
-}
-
-bool isInUse(Launcher& launcher, const QString& path, const QString& text)
+bool isInUse(Prompts& prompts, const QString& path, const QString& text)
 {
     if (path.isEmpty() || !IsFileLocked(path))
         return false;
-    reportAccessError(launcher, text);
+    reportAccessError(prompts, text);
     return true;
 }
 
 // An installed game with this WAD has its savegames in the same folder.
-bool isWadOfInstalledGame(const Launcher& launcher, const QString& base)
+bool isWadOfInstalledGame(const FileSystem& files, const InstallationPaths& paths, const QString& base)
 {
     const QStringList kinds{u"Pwads"_s, u"Gwads"_s};
-    const QStringList games = launcher.files.foldersHolding(launcher.paths.GamesPath, kinds);
+    const QStringList games = files.foldersHolding(paths.GamesPath, kinds);
     return std::ranges::any_of(games, [&](const QString& game) {
         return std::ranges::any_of(kinds, [&](const QString& kind) {
-            return launcher.files.fileExists(launcher.paths.GamesPath + game + u'/' + kind + u'/' + base +
-                                             u".wad"_s);
+            return files.fileExists(paths.GamesPath + game + u'/' + kind + u'/' + base + u".wad"_s);
         });
     });
 }
@@ -64,14 +57,12 @@ bool isWadOfInstalledGame(const Launcher& launcher, const QString& base)
 void removeGame(Launcher& launcher, const QString& name, const QString& base)
 {
     FileSystem& files = launcher.files;
-    Selection& selection = launcher.selection;
     const QString game = launcher.paths.GamesPath + name;
-    const bool isGwad = selection.GwadSelected;
+    const bool isGwad = launcher.gameIs(GameKind::Gwad);
     files.removeTree(game); // as a whole: of a linked folder the link goes, not what it leads to
     if (!isGwad)
         DeleteGameResources(files, launcher.paths, base);
     DeleteRecordsOfGame(files, launcher.paths, name, isGwad);
-    selection.GwadSelected = selection.PwadSelected = false;
     DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
     DeleteShortcuts(files, launcher.shortcutFolders, name);
 }
@@ -79,10 +70,10 @@ void removeGame(Launcher& launcher, const QString& name, const QString& base)
 void removeArchive(Launcher& launcher, const QString& name, const QString& base)
 {
     FileSystem& files = launcher.files;
-    files.remove(ArchivePath(launcher, name));
+    files.remove(ArchivePath(launcher.paths, name));
     files.remove(launcher.paths.LaunchPath + u"Zips/Checks/"_s + name + u".vykchk"_s);
     DeleteRecordsOfArchive(files, launcher.paths, name);
-    if (IsUsableName(base) && !isWadOfInstalledGame(launcher, base) &&
+    if (IsUsableName(base) && !isWadOfInstalledGame(files, launcher.paths, base) &&
         files.folderExists(launcher.paths.RootPath + u"/UserSG/"_s + base))
         files.removeTree(launcher.paths.RootPath + u"/UserSG/"_s + base);
 }
@@ -98,34 +89,34 @@ void ConnectRemoval(Launcher& launcher)
 
 void RemoveInstalledGame(Launcher& launcher)
 {
-    const QString name = launcher.controls.PwadList.selectedName();
-    const QString file = launcher.selection.SelectedGameFile;
+    const QString name = launcher.facts.game.name;
+    const QString file = launcher.SelectedGameFile();
     if (name.isEmpty() ||
-        !confirmed(launcher, u" Are you certain you wish to remove this game from the list?      "_s,
+        !confirmed(launcher.prompts, u" Are you certain you wish to remove this game from the list?      "_s,
                    u" Remove selected game from list "_s) ||
-        isInUse(launcher, file,
+        isInUse(launcher.prompts, file,
                 u" Unable to remove the selected item from the games list,       \r\n"
                 "associated files or folders are in use by another program."_s))
         return;
     try {
-        removeGame(launcher, name, ChosenWadName(launcher));
+        removeGame(launcher, name, launcher.chosenWadName());
     } catch (const FileError&) {
-        reportPartlyRemoved(launcher);
+        reportPartlyRemoved(launcher.prompts);
     }
-    OptionUdirClick(launcher, installedGames);
+    SelectView(launcher, View::InstalledGames);
 }
 
 void DeleteGameFile(Launcher& launcher)
 {
     FileSystem& files = launcher.files;
-    const QString ChosenListFile = chosenListFile(launcher);
+    const QString ChosenListFile = launcher.SelectedGameFile();
     const QString file = FileNameOf(ChosenListFile).toUpper();
     const QString base = BaseNameOf(ChosenListFile);
-    const QString game = launcher.selection.SelectedGwadGame;
+    const QString game = launcher.facts.game.name;
     if (ChosenListFile.isEmpty() ||
-        !confirmed(launcher, u"Are you certain you wish to delete "_s + file + u"?       "_s,
+        !confirmed(launcher.prompts, u"Are you certain you wish to delete "_s + file + u"?       "_s,
                    u" Delete selected file"_s) ||
-        isInUse(launcher, ChosenListFile,
+        isInUse(launcher.prompts, ChosenListFile,
                 u"Unable to delete the selected file, the file       \r\n"
                 "  appears to be in use by another program."_s))
         return;
@@ -137,28 +128,26 @@ void DeleteGameFile(Launcher& launcher)
                      base.toLower() + u".vyks"_s);
         DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
     } catch (const FileError&) {
-        reportPartlyRemoved(launcher);
+        reportPartlyRemoved(launcher.prompts);
     }
     SelectGameAgain(launcher);
 }
 
 void DeleteArchive(Launcher& launcher)
 {
-    const QString name = launcher.controls.PwadList.selectedName();
+    const QString name = launcher.facts.game.name;
     if (name.isEmpty() ||
-        !confirmed(launcher, u"Are you certain you wish to delete this file?      "_s,
+        !confirmed(launcher.prompts, u"Are you certain you wish to delete this file?      "_s,
                    u" Delete selected archive"_s) ||
-        isInUse(launcher, chosenListFile(launcher),
+        isInUse(launcher.prompts, launcher.SelectedGameFile(),
                 u"Unable to delete the selected file, the file       \r\n"
                 "  appears to be in use by another program."_s))
         return;
     try {
-        removeArchive(launcher, name, ChosenWadName(launcher));
+        removeArchive(launcher, name, launcher.chosenWadName());
     } catch (const FileError&) {
-        reportAccessError(launcher, u"Unable to remove the selected item from this list,       \r\n"
-                                    "   the file may be in use by another program."_s);
+        reportAccessError(launcher.prompts, u"Unable to remove the selected item from this list,       \r\n"
+                                            "   the file may be in use by another program."_s);
     }
-    launcher.controls.SaveGameList.clear();
-    launcher.selection.ArchiveSelected = false;
-    OptionUdirClick(launcher, zipLibrary);
+    SelectView(launcher, View::ZipLibrary);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The commands that delete the selected installed game, the chosen file of a Gwad game, or the selected zip.
 void ConnectRemoval(Launcher& launcher);

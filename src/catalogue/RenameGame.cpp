@@ -2,12 +2,12 @@
 
 #include "catalogue/GameLists.h"
 #include "catalogue/GameNames.h"
-#include "catalogue/GameSelection.h"
 #include "catalogue/Leftovers.h"
-#include "catalogue/RecordRemoval.h"
 #include "catalogue/ZipLibrary.h"
 #include "platform/FileLock.h"
 #include "platform/Paths.h"
+#include "records/RecordRemoval.h"
+#include "shell/DeleteShortcuts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,14 +17,6 @@ const QString renamingError = u" Renaming error"_s;
 const QString accessError = u" Access error"_s;
 const IllegalName illegalArchiveName{.title = renamingError,
                                      .text = u" Illegal naming convention detected. "_s};
-
-// The selected entry goes, and one for the new name comes and is selected.
-void replaceEntry(ListBox& list, const ListEntry& entry)
-{
-    list.remove(list.selected());
-    list.add(entry);
-    list.select(list.find(entry.name));
-}
 
 } // namespace
 
@@ -37,14 +29,14 @@ void ConnectRenaming(Launcher& launcher)
 void RenameInstalledGame(Launcher& launcher)
 {
     FileSystem& files = launcher.files;
-    Selection& selection = launcher.selection;
-    const QString old = launcher.controls.PwadList.selectedName();
+    const QString old = launcher.facts.game.name;
     if (old.isEmpty())
         return;
-    const QString base = ChosenWadName(launcher);
-    const std::optional<QString> name = AskGameName(
-        launcher, {.caption = u" Rename Game"_s, .frame = u" Name "_s, .button = u"Cancel"_s, .name = old},
-        {.title = renamingError});
+    const QString base = launcher.chosenWadName();
+    const std::optional<QString> name =
+        AskGameName(launcher.prompts,
+                    {.caption = u" Rename Game"_s, .frame = u" Name "_s, .button = u"Cancel"_s, .name = old},
+                    {.title = renamingError});
     if (!name)
         return;
     const QString games = launcher.paths.GamesPath;
@@ -57,12 +49,9 @@ void RenameInstalledGame(Launcher& launcher)
     try {
         files.move(games + old, games + *name);
         launcher.settings.SelectedGame = *name;
-        DeleteRecordsOfGame(files, launcher.paths, old, selection.GwadSelected);
-        replaceEntry(launcher.controls.PwadList, {ListedGameName(launcher, *name), *name});
+        DeleteRecordsOfGame(files, launcher.paths, old, launcher.gameIs(GameKind::Gwad));
         DeleteShortcuts(files, launcher.shortcutFolders, old);
-        if (base.isEmpty())
-            OptionUdirClick(launcher, installedGames);
-        else
+        if (!base.isEmpty())
             DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles"});
     } catch (const FileError& error) {
         if (error.isDenied())
@@ -70,24 +59,25 @@ void RenameInstalledGame(Launcher& launcher)
                                        "  the item may be in use by another program."_s,
                                        Msg::Ok + Msg::Exclamation, accessError);
         else
-            ReportIllegalName(launcher, {.title = renamingError});
-        OptionUdirClick(launcher, installedGames);
+            ReportIllegalName(launcher.prompts, {.title = renamingError});
     }
+    SelectView(launcher, View::InstalledGames);
 }
 
 void RenameArchive(Launcher& launcher)
 {
     FileSystem& files = launcher.files;
-    const QString old = launcher.controls.PwadList.selectedName();
+    const QString old = launcher.facts.game.name;
     if (old.isEmpty())
         return;
-    const std::optional<QString> name = AskGameName(
-        launcher, {.caption = u" Rename Zip"_s, .frame = u" Name "_s, .button = u"Cancel"_s, .name = old},
-        illegalArchiveName);
+    const std::optional<QString> name =
+        AskGameName(launcher.prompts,
+                    {.caption = u" Rename Zip"_s, .frame = u" Name "_s, .button = u"Cancel"_s, .name = old},
+                    illegalArchiveName);
     if (!name)
         return;
-    const QString from = ArchivePath(launcher, old);
-    const QString to = ArchivePath(launcher, *name);
+    const QString from = ArchivePath(launcher.paths, old);
+    const QString to = ArchivePath(launcher.paths, *name);
     // Asked before, not after: what is in use is left as it is.
     if (IsFileLocked(from)) {
         launcher.prompts.MsgboxPos(u"Unable to rename the selected file, the file       \r\n"
@@ -103,14 +93,13 @@ void RenameArchive(Launcher& launcher)
         launcher.settings.SelectedArchive = *name;
         if (!SameName(old, *name))
             DeleteRecordsOfArchive(files, launcher.paths, old);
-        replaceEntry(launcher.controls.PwadList, {ListedArchiveName(launcher, *name), *name});
     } catch (const FileError& error) {
         if (error.isDenied())
             launcher.prompts.MsgboxPos(u"Unable to rename the selected item in this list,       \r\n"
                                        "  the file may be in use by another program."_s,
                                        Msg::Ok + Msg::Exclamation, accessError);
         else
-            ReportIllegalName(launcher, illegalArchiveName);
-        OptionUdirClick(launcher, zipLibrary);
+            ReportIllegalName(launcher.prompts, illegalArchiveName);
     }
+    SelectView(launcher, View::ZipLibrary);
 }

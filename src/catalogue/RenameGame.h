@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The commands that give the selected installed game, or the selected zip, another name.
 void ConnectRenaming(Launcher& launcher);

@@ -1,31 +1,22 @@
 #include "catalogue/ScriptedMapMode.h"
 
 #include "catalogue/GameLists.h"
-#include "catalogue/ScriptedMaps.h"
-
-#include <utility>
 
 namespace {
 
 void toggle(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
     Settings& settings = launcher.settings;
-    bool& ignoreOnce = launcher.selection.ignoreScriptedMapClick;
-    if (!controls.ChkCM.ticked())
-        ignoreOnce = false;
-    if (settings.ListMode != installedGames || std::exchange(ignoreOnce, false))
+    if (!ScriptedMapSwitchShown(launcher))
         return;
-
-    const bool on = !controls.ChkCM.ticked();
-    controls.ChkCM.setTicked(on);
-    controls.chkAutoSelect.setTicked(on);
+    const bool on = !settings.ScriptedMapMode;
     settings.ScriptedMapMode = settings.AutoSelect = on;
+    (on ? settings.SelectedGameAutoOff : settings.SelectedGameAutoOn) = settings.SelectedGame;
     if (!on)
         settings.SelectedGame = settings.SelectedGameAutoOff;
     else if (!settings.SelectedGameAutoOn.isEmpty())
         settings.SelectedGame = settings.SelectedGameAutoOn;
-    OptionUdirClick(launcher, installedGames);
+    SelectView(launcher, View::InstalledGames);
 }
 
 } // namespace
@@ -33,22 +24,11 @@ void toggle(Launcher& launcher)
 void ConnectScriptedMapMode(Launcher& launcher)
 {
     launcher.controls.ImageCM.clicked = [&launcher] { toggle(launcher); };
-    launcher.controls.Auto[0].clicked = [&launcher] {
-        if (ScriptedMapSwitchShown(launcher))
-            toggle(launcher);
-    };
+    launcher.controls.Auto[Heading::Games].clicked = [&launcher] { toggle(launcher); };
 }
 
-bool ScriptedMapSwitchShown(const Launcher& launcher)
+bool ScriptedMapSwitchShown(const Truth& truth)
 {
-    return launcher.settings.ListMode == installedGames && launcher.controls.chkMain[2].ticked() &&
-           ScriptedMapModelsPresent(launcher.files, launcher.paths);
-}
-
-void RestoreScriptedMapMode(Launcher& launcher)
-{
-    launcher.selection.ignoreScriptedMapClick = true;
-    launcher.controls.ImageCM.visible = ScriptedMapSwitchShown(launcher);
-    if (launcher.controls.chkAutoSelect.ticked())
-        launcher.controls.Auto[0].clicked();
+    return truth.view() == View::InstalledGames && truth.settings.AdvancedOptions &&
+           truth.facts.modelPacks.scriptedMapModels;
 }

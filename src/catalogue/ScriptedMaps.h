@@ -1,15 +1,10 @@
 #pragma once
 
-#include "app/InstallationPaths.h"
 #include "platform/FileSystem.h"
+#include "state/Facts.h"
+#include "state/InstallationPaths.h"
 
 // The engine maker's scripted maps and the VEX add-on: installed games that need resources of their own.
-
-struct ScriptedMapCheck
-{
-    bool isScriptedMap = false;
-    bool isComplete = false; // its WAD, its models and its textures are there
-};
 
 // Whether the installed game `name` is one of the scripted maps.
 ScriptedMapCheck IsScriptedMap(const FileSystem& files, const InstallationPaths& paths, const QString& name);

@@ -1,7 +1,5 @@
 #include "catalogue/TaskMenus.h"
 
-#include "catalogue/GameLists.h"
-#include "catalogue/ScriptedMaps.h"
 #include "platform/Paths.h"
 
 namespace {
@@ -9,12 +7,10 @@ namespace {
 const Menu* installedGameMenu(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    const bool isGwad = launcher.selection.GwadSelected;
-    const bool isScripted =
-        !isGwad &&
-        IsScriptedMap(launcher.files, launcher.paths, launcher.settings.SelectedGame).isScriptedMap;
+    const bool isGwad = launcher.gameIs(GameKind::Gwad);
+    const bool isScripted = launcher.facts.game.scriptedMap.isScriptedMap;
     controls.mcRenameFolder.visible = !isScripted;
-    const bool canConvert = !isScripted && controls.chkTesting.ticked();
+    const bool canConvert = !isScripted && launcher.settings.DevelopmentMode;
     for (MenuItem* item : {&controls.Sep3, &controls.mcUdirConvert, &controls.mcGwadConvert})
         item->visible = canConvert;
     controls.mcUdirConvert.enabled = isGwad;
@@ -25,23 +21,21 @@ const Menu* installedGameMenu(Launcher& launcher)
 const Menu* gameMenu(Launcher& launcher)
 {
     const ListBox& games = launcher.controls.PwadList;
-    if (games.selected() < 0 || launcher.settings.ListMode == doomGames ||
+    if (games.selected() < 0 || launcher.view() == View::DoomGames ||
         SameName(games.selectedText(), FileNameOf(launcher.paths.RootPath)))
         return nullptr;
-    return launcher.settings.ListMode == zipLibrary ? &launcher.controls.mPopup6
-                                                    : installedGameMenu(launcher);
+    return launcher.view() == View::ZipLibrary ? &launcher.controls.mPopup6 : installedGameMenu(launcher);
 }
 
 const Menu* gameFileMenu(const Launcher& launcher)
 {
-    const bool isGwadFile = launcher.settings.ListMode == installedGames && launcher.selection.GwadSelected &&
-                            launcher.controls.PwadShowlist.selected() >= 0;
-    return isGwadFile ? &launcher.controls.mPopup3 : nullptr;
+    return launcher.gameIs(GameKind::Gwad) && !launcher.chosenFile().isEmpty() ? &launcher.controls.mPopup3
+                                                                               : nullptr;
 }
 
 const Menu* saveGameMenu(const Launcher& launcher)
 {
-    return launcher.controls.SaveGameList.selected() >= 0 ? &launcher.controls.mPopup7 : nullptr;
+    return !launcher.chosenSlot().isEmpty() ? &launcher.controls.mPopup7 : nullptr;
 }
 
 } // namespace

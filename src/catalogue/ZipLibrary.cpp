@@ -9,9 +9,9 @@ namespace {
 
 const QString notAZip = u"This file does not appear to be a valid zip file.    "_s;
 
-void fileError(Launcher& launcher, const QString& text)
+void fileError(Prompts& prompts, const QString& text)
 {
-    launcher.prompts.MsgboxPos(text, Msg::Ok, u" File error"_s);
+    prompts.MsgboxPos(text, Msg::Ok, u" File error"_s);
 }
 
 void emptyFolder(FileSystem& files, const QString& folder)
@@ -22,7 +22,7 @@ void emptyFolder(FileSystem& files, const QString& folder)
 
 QString askPassword(Launcher& launcher)
 {
-    bool& declined = launcher.selection.passwordsDeclined;
+    bool& declined = launcher.session.passwordsDeclined;
     if (declined)
         return {};
     const QString password = launcher.prompts.askPassword(u"Please Enter The Password!"_s);
@@ -40,10 +40,10 @@ bool unpack(Launcher& launcher, const QString& path, const QString& folder)
         emptyFolder(launcher.files, folder);
     } catch (const FileError& error) {
         const bool missing = error.kind() == FileError::Kind::NotFound;
-        fileError(launcher, missing ? notAZip
-                            : error.isDenied()
-                                ? u"The zip file can not be unpacked, a file may be in use.    "_s
-                                : u"The zip file can not be unpacked, the disk may be full.    "_s);
+        fileError(launcher.prompts, missing ? notAZip
+                                    : error.isDenied()
+                                        ? u"The zip file can not be unpacked, a file may be in use.    "_s
+                                        : u"The zip file can not be unpacked, the disk may be full.    "_s);
         try {
             emptyFolder(launcher.files, folder);
         } catch (const FileError&) {
@@ -60,17 +60,17 @@ QString ZipFolder(const InstallationPaths& paths)
     return paths.LaunchPath + u"Zips/"_s;
 }
 
-QString ArchivePath(const Launcher& launcher, const QString& name)
+QString ArchivePath(const InstallationPaths& paths, const QString& name)
 {
-    return launcher.paths.ArchivesPath + u'/' + name + u".zip"_s;
+    return paths.ArchivesPath + u'/' + name + u".zip"_s;
 }
 
 bool OpenArchive(Launcher& launcher, const QString& name)
 {
     const FileSystem& files = launcher.files;
-    const QString path = ArchivePath(launcher, name);
+    const QString path = ArchivePath(launcher.paths, name);
     const QString folder = ZipFolder(launcher.paths);
-    OpenedArchive& opened = launcher.selection.opened;
+    OpenedArchive& opened = launcher.facts.opened;
     if (opened == OpenedArchive{path, files.stamp(path), files.stamp(folder)})
         return true;
     opened = {};
@@ -94,11 +94,12 @@ bool ExtractZip(Launcher& launcher, const QString& ZipSourcePath, const QString&
     case Extraction::Cancelled:
         return false;
     case Extraction::TooLarge:
-        fileError(launcher, u"This zip file unpacks to more than any game holds, it is left alone.    "_s);
+        fileError(launcher.prompts,
+                  u"This zip file unpacks to more than any game holds, it is left alone.    "_s);
         return false;
     case Extraction::NotAZip:
         break;
     }
-    fileError(launcher, notAZip);
+    fileError(launcher.prompts, notAZip);
     return false;
 }

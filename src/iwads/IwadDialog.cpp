@@ -1,29 +1,24 @@
 #include "iwads/IwadDialog.h"
 
-#include "app/StartUp.h"
 #include "catalogue/GameLists.h"
-#include "catalogue/GameSelection.h"
-#include "launch/ShellOpen.h"
+#include "iwads/IwadSearch.h"
 #include "platform/Paths.h"
+#include "shell/ShellOpen.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-} // namespace
-
 void IwadDialog::activate()
 {
-    m_warningShown = m_launcher.iwads.ShowIwads[0].isEmpty();
-    m_canAdd = m_launcher.iwads.ShowIwads.back().isEmpty();
+    m_warningShown = m_launcher.facts.iwads.ShowIwads[0].isEmpty();
+    m_canAdd = m_launcher.facts.iwads.ShowIwads.back().isEmpty();
 }
 
 void IwadDialog::forgetIwads()
 {
-    m_launcher.iwads.Path.fill({});
-    m_launcher.iwads.ShowIwads.fill({});
+    m_launcher.facts.iwads.Path.fill({});
+    m_launcher.facts.iwads.ShowIwads.fill({});
     m_canAdd = true;
     try {
         m_launcher.files.remove(m_launcher.paths.LaunchDataPath + u"iwads.cfg"_s);
@@ -32,24 +27,26 @@ void IwadDialog::forgetIwads()
     }
 }
 
-void IwadDialog::listDoomGames()
+void IwadDialog::readAgain()
 {
-    if (m_launcher.settings.ListMode != doomGames)
-        return;
-    FillDoomGamesList(m_launcher);
-    m_launcher.controls.PwadList.select(0);
+    Facts& facts = m_launcher.facts;
+    facts.iwadsOnDisk =
+        ReadIwadFacts(facts.iwads, m_launcher.files, m_launcher.paths, m_launcher.environment);
+    if (m_launcher.view() == View::DoomGames)
+        SelectView(m_launcher, View::DoomGames);
 }
 
 void IwadDialog::search()
 {
     forgetIwads();
     QStringList storedFiles;
-    SearchIwads(m_launcher.iwads, storedFiles, m_launcher.files, m_launcher.paths, m_launcher.environment);
-    auto& boxes = m_launcher.iwads.ShowIwads;
+    SearchIwads(m_launcher.facts.iwads, storedFiles, m_launcher.files, m_launcher.paths,
+                m_launcher.environment);
+    auto& boxes = m_launcher.facts.iwads.ShowIwads;
     std::copy_n(storedFiles.cbegin(), std::min<qsizetype>(storedFiles.size(), std::ssize(boxes)),
                 boxes.begin());
     m_warningShown = boxes[0].isEmpty();
-    listDoomGames();
+    readAgain();
 }
 
 void IwadDialog::reset()
@@ -57,25 +54,20 @@ void IwadDialog::reset()
     forgetIwads();
     m_warningShown = false;
     m_canSearch = true;
-    Controls& controls = m_launcher.controls;
-    if (m_launcher.settings.ListMode == doomGames)
-        for (ListBox* list :
-             {&controls.PwadList, &controls.PwadShowlist, &controls.MapList, &controls.SaveGameList})
-            list->clear();
-    controls.LaunchButton.enabled = CanLaunchSelection(m_launcher);
+    readAgain();
 }
 
 bool IwadDialog::checkIwad(const QString& path)
 {
     const std::optional<GameFamily> family = FamilyOfIwad(path);
     if (family)
-        m_launcher.iwads.of(*family) = path;
+        m_launcher.facts.iwads.of(*family) = path;
     return family.has_value();
 }
 
 void IwadDialog::addIwad()
 {
-    IwadPaths& iwads = m_launcher.iwads;
+    IwadPaths& iwads = m_launcher.facts.iwads;
     QString folder =
         m_launcher.files.folderExists(iwads.IwadFolder) ? iwads.IwadFolder : m_launcher.paths.RootPath;
     if (!m_lastFolder.isEmpty())
@@ -100,7 +92,7 @@ void IwadDialog::addIwad()
         m_canSearch = false;
     }
     m_canAdd = iwads.ShowIwads.back().isEmpty();
-    listDoomGames();
+    readAgain();
     try {
         SaveIwadList(iwads, m_launcher.files, m_launcher.paths);
     } catch (const FileError&) {
@@ -111,7 +103,7 @@ void IwadDialog::addIwad()
 
 bool IwadDialog::accept()
 {
-    if (m_launcher.iwads.ShowIwads[0].isEmpty()) {
+    if (m_launcher.facts.iwads.ShowIwads[0].isEmpty()) {
         const int answer = m_launcher.prompts.MsgboxPos(
             u"The Iwad locations must be set for the Launcher to function.    \r\n"
             "      Do you still wish to exit the VYKLauncher setup?"_s,
@@ -121,13 +113,9 @@ bool IwadDialog::accept()
         ShutDownLauncher(m_launcher);
         return true;
     }
-    const int view = m_launcher.settings.ListMode;
-    if (view != doomGames)
-        OptionUdirClick(m_launcher, view);
-    const bool wasShown = m_launcher.window.isShown();
+    if (m_launcher.view() != View::DoomGames)
+        SelectView(m_launcher, m_launcher.view());
     m_launcher.window.show();
-    if (wasShown && view == doomGames && m_launcher.settings.SelectedDoomGame.isEmpty())
-        m_launcher.controls.PwadList.select(0);
     return true;
 }
 

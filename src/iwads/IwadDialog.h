@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // What the IWAD locations dialog does; IwadForm shows it. The boxes are IwadPaths::ShowIwads.
 class IwadDialog
@@ -22,7 +22,7 @@ public:
 private:
     bool checkIwad(const QString& path); // CheckIwad: records the path for its family
     void forgetIwads();
-    void listDoomGames();
+    void readAgain(); // what the IWADs are for the rest of the launcher
 
     Launcher& m_launcher;
     bool m_warningShown = false;

@@ -139,7 +139,7 @@ void IwadForm::write()
     m_warning->setVisible(m_dialog.warningShown());
     m_boxes->setVisible(!m_dialog.warningShown());
     for (size_t i = 0; i < m_showIwads.size(); ++i)
-        m_showIwads[i]->setText(NativePath(m_launcher.iwads.ShowIwads[i]));
+        m_showIwads[i]->setText(NativePath(m_launcher.facts.iwads.ShowIwads[i]));
     m_search->setEnabled(m_dialog.canSearch());
     m_add->setEnabled(m_dialog.canAdd());
     m_launcher.window.refresh();

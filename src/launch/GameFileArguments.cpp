@@ -3,6 +3,8 @@
 #include "platform/Paths.h"
 #include "wad/GameFiles.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,63 +24,41 @@ private:
     GameFileArguments m_arguments;
 };
 
-QStringList withEnding(const QStringList& paths, const QString& ending)
+QStringList withEnding(const QStringList& names, const QString& ending)
 {
     QStringList found;
-    for (const QString& path : paths)
-        if (EndsWith(path, ending))
-            found << path;
+    for (const QString& name : names)
+        if (EndsWith(name, ending))
+            found << name;
     return found;
 }
 
 } // namespace
 
-GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing, const MapCounter& countMaps)
+GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& mainWad, bool iwadMissing)
 {
-    const Selection& selection = launcher.selection;
-    const QString mainWad = selection.SelectedGameFile;
-    const GatheredFiles gathered = GatherGameFiles(launcher.files, mainWad, countMaps);
+    const bool isArchive = game.kind == GameKind::Archive;
+    const QString userDir = FileNameOf(FolderOf(game.folder.chopped(1)));
     Pieces pieces;
-    if (selection.GwadSelected) {
-        pieces.add(u"-udir "_s, gathered.userDir);
-        pieces.add(u"-f "_s, FileNameOf(mainWad));
-        return pieces.arguments();
-    }
-    if (mainWad.isEmpty())
-        return {};
-    if (!gathered.inGameFolder) {
-        pieces.add(u"-f "_s, NativePath(mainWad));
-        return pieces.arguments();
-    }
-
-    const bool isArchive = selection.ArchiveSelected;
-    const bool everyFile = isArchive || iwadMissing;
-    const auto nameOf = [isArchive](const QString& path) {
-        return isArchive ? NativePath(path) : FileNameOf(path);
-    };
     if (!isArchive)
-        pieces.add(u"-udir "_s, gathered.userDir);
-    if (!everyFile)
+        pieces.add(u"-udir "_s, userDir);
+    if (game.kind == GameKind::Gwad)
+        pieces.add(u"-f "_s, mainWad);
+    if (game.kind == GameKind::Gwad || (!isArchive && !iwadMissing))
         return pieces.arguments();
 
+    const auto pathOf = [&game](const QString& name) { return NativePath(game.folder + name); };
+    const auto nameOf = [&](const QString& name) { return isArchive ? pathOf(name) : name; };
+    const QStringList files = GatherGameFiles(game.files, mainWad);
     pieces.add(u"-f"_s);
     QString introduction = u" "_s;
-    for (const QString& path : withEnding(gathered.StoredFiles, u".wad"_s)) {
-        if (!IsGameFile(launcher.files, FolderOf(path) + u'/', FileNameOf(path),
-                        launcher.settings.WadFilesOnly))
-            continue;
-        pieces.add(introduction, nameOf(path));
-        introduction.clear();
-    }
+    for (const QString& name : withEnding(files, u".wad"_s))
+        pieces.add(std::exchange(introduction, {}), nameOf(name));
     introduction = u"-deh "_s;
-    for (const QString& path : withEnding(gathered.StoredFiles, u".deh"_s)) {
-        pieces.add(introduction, selection.PwadSelected ? FileNameOf(path) : NativePath(path));
-        introduction.clear();
-    }
+    for (const QString& name : withEnding(files, u".deh"_s))
+        pieces.add(std::exchange(introduction, {}), nameOf(name));
     introduction = u"-d "_s;
-    for (const QString& path : withEnding(gathered.StoredFiles, u".ded"_s)) {
-        pieces.add(introduction, NativePath(path));
-        introduction.clear();
-    }
+    for (const QString& name : withEnding(files, u".ded"_s))
+        pieces.add(std::exchange(introduction, {}), pathOf(name));
     return pieces.arguments();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "launch/LaunchPlan.h"
+#include "state/Facts.h"
 
 #include <QStringList>
 
@@ -11,6 +11,6 @@ struct GameFileArguments
     QStringList names; // what stands in quotes in it
 };
 
-// The file arguments of the selected game. `iwadMissing`: the engine does not find the IWAD by itself and
-// then is told every file too. `countMaps` tells the WADs with maps from those without.
-GameFileArguments FileArgumentsOf(Launcher& launcher, bool iwadMissing, const MapCounter& countMaps);
+// The file arguments of a game with one of its files as the main WAD. `iwadMissing`: the engine does not find
+// the IWAD by itself and then is told every file too.
+GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& mainWad, bool iwadMissing);

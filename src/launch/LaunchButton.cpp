@@ -1,33 +1,49 @@
 #include "launch/LaunchButton.h"
 
 #include "catalogue/GameSelection.h"
-#include "launch/LaunchCommercialGame.h"
-#include "launch/LaunchInstalledGame.h"
-#include "platform/Paths.h"
+#include "iwads/IwadSearch.h"
+#include "launch/LaunchSteps.h"
+#include "music/Playlists.h"
+#include "options/PackFacts.h"
+#include "platform/Text.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Another launcher may have put another zip's files into the zip folder since this one was selected.
-void reopenArchive(Launcher& launcher)
+void writeLog(Launcher& launcher, const QString& commandLine)
 {
-    const QString mainWad = launcher.selection.SelectedGameFile;
-    if (!launcher.selection.ArchiveSelected || mainWad.isEmpty() ||
-        launcher.files.stamp(mainWad) == launcher.wadReports.value(mainWad).stamp)
-        return;
-    ShowSelectedGameAnew(launcher);
+    try {
+        WriteLines(launcher.files, launcher.paths.LaunchPath + u"launch.log"_s, {commandLine});
+    } catch (const FileError&) {
+        // The log is for the player to read; a game starts without it.
+    }
 }
 
-bool hasMaps(const Launcher& launcher)
+void show(Prompts& prompts, const LaunchMessage& message)
 {
-    return !launcher.controls.MapList.entry(0).isEmpty();
+    prompts.MsgboxPos(message.text, Msg::Ok + Msg::Information, message.title);
 }
 
-LaunchPlan noLevels(const Launcher& launcher)
+LaunchResult start(Launcher& launcher, const QString& commandLine)
 {
-    const QString tail = FileNameOf(launcher.selection.SelectedGameFile) + u" contains no levels.    "_s;
-    return Refused({u"The "_s + tail.toLower(), u" Wad error"_s});
+    const auto mode = static_cast<LaunchMode>(launcher.settings.LastLaunchMode);
+    launcher.session.AfterLaunch = true;
+    writeLog(launcher, commandLine);
+    launcher.settings.WindowTop = launcher.window.position().y();
+    launcher.settings.WindowLeft = launcher.window.position().x();
+    if (mode == LaunchMode::Minimised)
+        launcher.window.minimise();
+    if (!launcher.processes.start(commandLine, launcher.paths.RootPath)) {
+        launcher.session.AfterLaunch = false;
+        launcher.window.bringToFront(); // a message over a minimised window may not be seen
+        launcher.prompts.MsgboxPos(u"Cannot execute! The command line was:\r\n"_s + commandLine, Msg::Ok,
+                                   QString());
+        return LaunchResult::Refused;
+    }
+    if (mode == LaunchMode::Exit)
+        ShutDownLauncher(launcher);
+    return LaunchResult::Started;
 }
 
 } // namespace
@@ -35,21 +51,52 @@ LaunchPlan noLevels(const Launcher& launcher)
 void ConnectLaunchButton(Launcher& launcher)
 {
     launcher.controls.LaunchButton.clicked = [&launcher] { LaunchSelectedGame(launcher); };
+    launcher.controls.CopyPreview.clicked = [&launcher] {
+        launcher.window.copyText(launcher.controls.CommandPreview.text);
+    };
 }
 
-LaunchPlan PlanSelectedGame(Launcher& launcher, const MapCounter& countMaps)
+void ReadBeforeLaunch(Launcher& launcher)
 {
-    if (!hasMaps(launcher))
-        return noLevels(launcher);
-    return launcher.selection.DoomGameSelected ? PlanCommercialGame(launcher)
-                                               : PlanInstalledGame(launcher, countMaps);
+    ReadPacks(launcher);
+    ReadPlaylists(launcher);
+    launcher.facts.iwadsOnDisk =
+        ReadIwadFacts(launcher.facts.iwads, launcher.files, launcher.paths, launcher.environment);
+    ReadSelectedGame(launcher);
+}
+
+bool ShowMessages(Launcher& launcher, const LaunchPlan& plan)
+{
+    for (const LaunchMessage& notice : plan.notices)
+        show(launcher.prompts, notice);
+    for (const auto option : plan.switchedOff)
+        launcher.settings.*option = false;
+    if (!plan.refusal)
+        return !plan.commandLine.isEmpty();
+    show(launcher.prompts, *plan.refusal);
+    if (plan.iwadGone)
+        launcher.window.showIwadForm();
+    return false;
 }
 
 LaunchResult LaunchSelectedGame(Launcher& launcher)
 {
-    reopenArchive(launcher);
-    if (!hasMaps(launcher))
-        return RunPlan(launcher, noLevels(launcher));
-    return launcher.selection.DoomGameSelected ? LaunchCommercialGame(launcher)
-                                               : LaunchInstalledGame(launcher);
+    ReadBeforeLaunch(launcher);
+    launcher.settings.LastLaunchMode = launcher.settings.LaunchMode;
+    const LaunchPlan plan = PlanLaunch(launcher);
+    return ShowMessages(launcher, plan) ? start(launcher, plan.commandLine) : LaunchResult::Refused;
+}
+
+void ShowLaunch(const Truth& truth, const LaunchPlan& plan, Controls& controls)
+{
+    const bool onGamesTab = truth.selection.tab == Tab::Games;
+    const bool canStart = !plan.commandLine.isEmpty();
+    const bool isSomethingChosen = !truth.chosenFile().isEmpty() && (canStart || plan.refusal);
+    controls.LaunchButton.enabled = onGamesTab && isSomethingChosen;
+    controls.AuxButton[Tool::Shortcut].enabled = onGamesTab && canStart && !truth.gameIs(GameKind::Archive);
+
+    controls.CommandPreview.text = plan.commandLine;
+    controls.CommandPreview.placeholder =
+        plan.refusal && isSomethingChosen ? plan.refusal->text.simplified() : QString();
+    controls.CopyPreview.enabled = canStart;
 }

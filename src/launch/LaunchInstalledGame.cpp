@@ -1,17 +1,11 @@
-#include "launch/LaunchInstalledGame.h"
-
-#include "app/ControlStates.h"
 #include "catalogue/ScriptedMaps.h"
 #include "launch/GameFileArguments.h"
+#include "launch/LaunchPlan.h"
 #include "launch/LaunchSteps.h"
-#include "launch/SwitchTable.h"
-#include "music/AutoPlaylist.h"
-#include "options/ModelPacks.h"
+#include "options/Modes.h"
+#include "options/OptionsInForce.h"
 #include "platform/Paths.h"
 #include "wad/MainWad.h"
-#include "wad/ToolBridge.h"
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -22,41 +16,12 @@ constexpr int needsTnt = 1;
 constexpr int needsPlutonia = 2;
 constexpr int needsBasicDoom = 7;
 
-// "Basic Doom" ticked for one launch; afterwards every option is as it was.
-class ForcedBasicDoom
-{
-public:
-    explicit ForcedBasicDoom(Launcher& launcher)
-        : m_launcher(launcher), m_controls(launcher.controls), m_settings(launcher.settings)
-    {
-        CheckBox& box = launcher.controls.chkMain[0];
-        box.enabled = true; // greyed beside Core Effects
-        box.setTicked(true);
-    }
-    ~ForcedBasicDoom()
-    {
-        m_controls.restore(m_launcher.controls);
-        m_launcher.settings = m_settings;
-    }
-    ForcedBasicDoom(const ForcedBasicDoom&) = delete;
-    ForcedBasicDoom& operator=(const ForcedBasicDoom&) = delete;
-
-private:
-    Launcher& m_launcher;
-    ControlStates m_controls;
-    Settings m_settings;
-};
-
-QString gameName(const Launcher& launcher)
-{
-    return FileNameOf(FolderOf(launcher.selection.SelectedGameFolder.chopped(1)));
-}
-
 // The message that stops the launch of a scripted map or of the add-on's level; nothing when it may start.
-std::optional<LaunchMessage> missingResources(const Launcher& launcher, const ScriptedMapCheck& map)
+std::optional<LaunchMessage> missingResources(const Truth& truth)
 {
-    const QString mainWad = launcher.selection.SelectedGameFile;
-    if (SameName(FileNameOf(mainWad), u"Vexlev.wad"_s) && CheckVexAddon(launcher.files, launcher.paths))
+    const ScriptedMapCheck& map = truth.facts.game.scriptedMap;
+    const ModelPacks& packs = truth.facts.modelPacks;
+    if (SameName(truth.chosenFile(), u"Vexlev.wad"_s) && packs.vexAddonOutdated)
         return LaunchMessage{u"   This map requires the latest version of the Keldrax VEX \r\n"
                              "   addon available from the Keldrax website's maps section.   "_s,
                              u" VEX Addon required"_s};
@@ -65,11 +30,11 @@ std::optional<LaunchMessage> missingResources(const Launcher& launcher, const Sc
                              "   with this version of Keldrax, download the latest version   \r\n"
                              "   of this map from the Keldrax website's Maps section.        "_s,
                              u" Map error - updated map required"_s};
-    if (launcher.selection.ScriptedMap && launcher.modelPacks.ModelPacksMissing)
+    if (truth.isScriptedMap() && packs.ModelPacksMissing)
         return LaunchMessage{u"   Keldrax maps require the model packs to be installed \r\n"
                              "   Model packs are available from the Keldrax website. "_s,
                              u" Model packs required"_s};
-    if (launcher.selection.ScriptedMap && CheckScriptedMapDate(launcher.files, mainWad))
+    if (truth.isScriptedMap() && truth.facts.file.isOutdated)
         return LaunchMessage{u"   This map is an older version and not compatible with \r\n"
                              "   this version of Keldrax, download the latest version \r\n"
                              "   of this map from the Keldrax website's maps section. "_s,
@@ -78,88 +43,74 @@ std::optional<LaunchMessage> missingResources(const Launcher& launcher, const Sc
 }
 
 // An auto-loading game needs a WAD with maps chosen in its files list.
-QString unusableChoice(const Launcher& launcher)
+QString unusableChoice(const Truth& truth)
 {
-    if (!launcher.selection.GwadSelected)
+    if (!truth.gameIs(GameKind::Gwad))
         return {};
-    const QString chosen = launcher.controls.PwadShowlist.selectedText();
+    const QString chosen = truth.chosenFile();
     if (!EndsWith(chosen, u".wad"_s))
         return u"You have not yet selected a WAD file.     "_s;
-    if (launcher.controls.MapList.entry(0).isEmpty())
+    if (truth.facts.file.maps.isEmpty())
         return u"You have not yet selected a valid WAD file.     \r\nThe "_s + chosen.toUpper() +
                u" contains no levels.     "_s;
     return {};
 }
 
+LaunchMessage missingFinalDoom()
+{
+    return {u"This map requires one of the Final Doom Iwads to run correctly.      \r\n"
+            "  Read the author's text file regarding which Iwad is required.      "_s,
+            u" Missing Final Doom Iwad "_s};
+}
+
+LaunchMessage missingIwad(bool isDoom2)
+{
+    return {u"There appears to be a problem locating the Iwad for this map.      \r\n"
+            "This map requires the "_s +
+                (isDoom2 ? u"Doom2.wad"_s : u"Doom.wad"_s) + u" before it can be run."_s,
+            u" Iwad not found for current map"_s};
+}
+
 } // namespace
 
-LaunchPlan PlanInstalledGame(Launcher& launcher, const MapCounter& countMaps)
+LaunchPlan PlanInstalledGame(const Truth& now)
 {
-    LaunchState& launch = launcher.launch;
-    const QString mainWad = launcher.selection.SelectedGameFile;
+    Truth truth = now;
     LaunchPlan plan;
     const auto refused = [&plan](const LaunchMessage& message) {
         plan.refusal = message;
         return plan;
     };
-
-    PrepareLaunch(launcher);
-    const ScriptedMapCheck map = IsScriptedMap(launcher.files, launcher.paths, gameName(launcher));
-    if (map.isScriptedMap && map.isComplete)
-        launcher.selection.ScriptedMap = true;
-    if (const auto message = missingResources(launcher, map))
+    if (const auto message = missingResources(truth))
         return refused(*message);
-    if (!CheckHudWeaponsDefs(launcher.settings, launcher.files, launcher.paths))
-        plan.notices << LaunchMessage{
-            u" There is a compatibility issue between the standard and enhanced models,  \r\n"
-            "  Enhanced models will not be used  - update to the latest model packs.  "_s,
-            u" Launch error"_s};
-    CheckKelspackWad(launcher, plan);
-    if (const QString message = unusableChoice(launcher); !message.isEmpty())
+    CheckModels(truth,
+                u" There is a compatibility issue between the standard and enhanced models,  \r\n"
+                "  Enhanced models will not be used  - update to the latest model packs.  "_s,
+                plan);
+    if (const QString message = unusableChoice(truth); !message.isEmpty())
         return refused({message, u" Launch error"_s});
 
-    if (launch.StartChoice == StartChoice::NewGame)
-        UpdateWarp(launcher);
-    const int wadCheckResult = CheckPwad(launcher.files, launcher.paths, mainWad);
+    const int wadCheckResult = truth.facts.file.compatibility;
     const bool finalDoomRequired = wadCheckResult == needsTnt || wadCheckResult == needsPlutonia;
+    std::optional<GameFamily> family = UpdateWarp(truth).family;
     if (finalDoomRequired)
-        launch.SelectedIwadPath =
-            launcher.iwads.of(wadCheckResult == needsTnt ? GameFamily::Tnt : GameFamily::Plutonia);
-    std::unique_ptr<ForcedBasicDoom> forced;
-    if (wadCheckResult == needsBasicDoom && !launcher.settings.BasicDoom)
-        forced = std::make_unique<ForcedBasicDoom>(launcher);
+        family = wadCheckResult == needsTnt ? GameFamily::Tnt : GameFamily::Plutonia;
+    if (!family || !truth.facts.onDisk(*family).exists)
+        return refused(finalDoomRequired ? missingFinalDoom() : missingIwad(family == GameFamily::Doom2));
 
-    if (!launcher.files.fileExists(launch.SelectedIwadPath)) {
-        if (finalDoomRequired)
-            return refused({u"This map requires one of the Final Doom Iwads to run correctly.      \r\n"
-                            "  Read the author's text file regarding which Iwad is required.      "_s,
-                            u" Missing Final Doom Iwad "_s});
-        const bool isDoom2 = launcher.controls.MapList.entry(0).startsWith(u'M', Qt::CaseInsensitive);
-        return refused({u"There appears to be a problem locating the Iwad for this map.      \r\n"
-                        "This map requires the "_s +
-                            (isDoom2 ? u"Doom2.wad"_s : u"Doom.wad"_s) + u" before it can be run."_s,
-                        u" Iwad not found for current map"_s});
+    if (wadCheckResult == needsBasicDoom && !truth.settings.BasicDoom) {
+        truth.settings.BasicDoom = true; // for this launch
+        BasicDoom(truth.settings);
     }
-
-    const bool iwadMissing =
-        IsIwadMissing(launch.SelectedIwadPath, launcher.files, launcher.paths, launcher.environment);
-    const GameFileArguments files = FileArgumentsOf(launcher, iwadMissing, countMaps);
-    QString commandLine = Engine + IwadArgument(launcher, launch.SelectedIwadPath) + files.text;
-    if (launcher.settings.Skill == 0)
-        launch.StartChoice = StartChoice::NewGame;
-    commandLine += OptionSwitches(
-        {.launcher = launcher,
-         .path = LaunchPath::InstalledGame,
-         .automaticPlaylist = AutomaticPlaylist(launcher),
-         .scriptedMap = launcher.selection.ScriptedMap,
-         .scriptedMapModels = launcher.modelPacks.ModelPack2Installed,
-         .lateAlternativeWeapons = !launcher.selection.GwadSelected && NeedsAlternativeWeapons(mainWad),
-         .wadCheckResult = wadCheckResult});
-    return FinishPlan(launcher, std::move(plan), commandLine, files.names);
-}
-
-LaunchResult LaunchInstalledGame(Launcher& launcher)
-{
-    const auto countMaps = [&launcher](const QString& path) { return CountWadMaps(launcher, path); };
-    return RunPlan(launcher, PlanInstalledGame(launcher, countMaps));
+    const Settings inForce = OptionsInForce(truth);
+    const GameFileArguments files =
+        FileArgumentsOf(truth.facts.game, truth.chosenFile(), !truth.facts.onDisk(*family).foundByEngine);
+    SwitchInputs inputs = InputsOf(truth, inForce, LaunchPath::InstalledGame, *family);
+    inputs.scriptedMapModels = truth.facts.modelPacks.ModelPack2Installed;
+    inputs.lateAlternativeWeapons =
+        !truth.gameIs(GameKind::Gwad) && NeedsAlternativeWeapons(truth.chosenFile());
+    inputs.wadCheckResult = wadCheckResult;
+    return FinishPlan(truth, std::move(plan),
+                      Engine + IwadArgument(truth.facts, *family) + files.text + OptionSwitches(inputs),
+                      *family, files.names);
 }

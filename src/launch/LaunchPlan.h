@@ -1,15 +1,8 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Truth.h"
 
-#include <functional>
 #include <optional>
-
-enum class LaunchResult {
-    Started,
-    Refused,    // with a message
-    HandedOver, // the arguments are in LaunchState::ShortcutArguments; nothing was written or started
-};
 
 struct LaunchMessage
 {
@@ -17,21 +10,25 @@ struct LaunchMessage
     QString title;
 };
 
-// What a launch would do, worked out before anything is asked, written or started.
+// What a launch would do with what is true now, before anything is asked, written or started.
 struct LaunchPlan
 {
-    QString commandLine;                  // empty when the launch is refused
+    QString commandLine;                  // empty when there is nothing to start
     QList<LaunchMessage> notices;         // shown before the game starts
     std::optional<LaunchMessage> refusal; // why it does not
     bool iwadGone = false;                // after the refusal the IWADs' locations are shown
-};
 
-// How many maps a WAD has (its path with '/'), in the game-file tool's sense.
-using MapCounter = std::function<int(const QString& path)>;
+    // What a notice says to be switched off, the player's tick included.
+    QList<bool Settings::*> switchedOff;
+};
 
 // A plan without a game.
 LaunchPlan Refused(const LaunchMessage& message);
 
-// Shows the plan's messages and, unless it is refused, starts the engine, or hands the arguments over in
-// ShortcutMode. Leaves the launcher as the launch mode says.
-LaunchResult RunPlan(Launcher& launcher, const LaunchPlan& plan);
+// The launch of what is selected: the one answer to the Launch button, its preview, shortcuts and a
+// console.
+LaunchPlan PlanLaunch(const Truth& truth);
+
+// Its two kinds: of a Doom game, and of an installed game or a zip.
+LaunchPlan PlanCommercialGame(const Truth& truth);
+LaunchPlan PlanInstalledGame(const Truth& truth);

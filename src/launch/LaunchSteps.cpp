@@ -1,9 +1,9 @@
 #include "launch/LaunchSteps.h"
 
-#include "app/SettingsControls.h"
-#include "options/ModelPacks.h"
-#include "options/PresenceChecks.h"
+#include "music/AutoPlaylist.h"
+#include "options/OptionsInForce.h"
 #include "platform/Paths.h"
+#include "wad/MainWad.h"
 
 #include <algorithm>
 
@@ -11,75 +11,92 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString startSwitches(const Truth& truth)
+{
+    const QString warp = UpdateWarp(truth).WarpArgument;
+    if (truth.startChoice() == StartChoice::ChosenMap && !warp.isEmpty())
+        return u"-wp "_s + warp + u' ';
+    if (truth.startChoice() == StartChoice::ChosenSavegame)
+        return u"-loadgame "_s + truth.chosenSlot() + u' ';
+    return {};
+}
+
+QString customText(const Settings& settings)
+{
+    const QString& text = settings.CustomText;
+    return text.isEmpty() ? QString() : text + u' ';
+}
+
 // Nothing in a command line escapes a double quote: a path that holds one would be split.
-bool canBeQuoted(const Launcher& launcher, const QString& own, const QStringList& names)
+bool canBeQuoted(const Truth& truth, const QString& own, GameFamily family, const QStringList& names)
 {
     const auto carries = [&own](const QString& value) { return value.contains(u'"') && own.contains(value); };
-    return own.count(u'"') % 2 == 0 && !carries(NativePath(launcher.launch.SelectedIwadPath)) &&
-           !carries(NativePath(launcher.settings.TexturePath)) &&
-           !carries(BaseNameOf(launcher.settings.PlaylistName)) &&
+    return own.count(u'"') % 2 == 0 && !carries(NativePath(truth.facts.iwads.of(family))) &&
+           !carries(NativePath(truth.facts.resources.textures)) &&
+           !carries(BaseNameOf(truth.settings.PlaylistName)) &&
            std::ranges::none_of(names, [](const QString& name) { return name.contains(u'"'); });
+}
+
+QString playlistThatExists(const Facts& facts, const QString& name)
+{
+    return facts.playlists.contains(name, Qt::CaseInsensitive) ? name : QString();
 }
 
 } // namespace
 
-void PrepareLaunch(Launcher& launcher)
+void CheckModels(Truth& truth, const QString& compatibility, LaunchPlan& plan)
 {
-    ReadControlsToSettings(launcher.settings, launcher.controls);
-    CheckGraphicsPacks(launcher);
-    DetectModelPacks(launcher);
-    CheckSoundPack(launcher);
-    launcher.launch.RicochetOn =
-        launcher.controls.chkSound[2].ticked() && !launcher.controls.chkMain[0].ticked();
-    if (!launcher.controls.chkMain[1].enabled)
-        launcher.settings.HighResTextures = false;
+    const Circumstances now(truth);
+    Settings& settings = truth.settings;
+    const auto report = [&](const QString& text, std::initializer_list<bool Settings::*> switchedOff) {
+        plan.notices << LaunchMessage{text, u" Launch error"_s};
+        for (const auto option : switchedOff) {
+            plan.switchedOff << option;
+            settings.*option = false;
+        }
+    };
+    if (!now.basicDoom && !now.coreEffects && settings.TovrensReplacements && !now.models.hudWeaponsAgree)
+        report(compatibility, {&Settings::TovrensReplacements});
+    if ((settings.KelspackWeapons || settings.KelspackAlternative) && !now.coreEffects &&
+        !now.models.kelspackWad)
+        report(u" Unable to use kelspack as the kelspack.wad was not found.  "_s,
+               {&Settings::KelspackWeapons, &Settings::KelspackAlternative});
 }
 
-void CheckKelspackWad(Launcher& launcher, LaunchPlan& plan)
+QString IwadArgument(const Facts& facts, GameFamily family)
 {
-    Settings& settings = launcher.settings;
-    if ((!settings.KelspackWeapons && !settings.KelspackAlternative) || settings.CoreEffects ||
-        launcher.files.fileExists(launcher.paths.RootPath + u"/md2/Kelspack/kelspack.wad"_s))
-        return;
-    plan.notices << LaunchMessage{u" Unable to use kelspack as the kelspack.wad was not found.  "_s,
-                                  u" Launch error"_s};
-    settings.KelspackWeapons = settings.KelspackAlternative = false;
+    const QString& iwad = facts.iwads.of(family);
+    return facts.onDisk(family).foundByEngine ? u" -"_s + BaseNameOf(iwad) + u' '
+                                              : u" -iwad \""_s + NativePath(iwad) + u"\" "_s;
 }
 
-QString IwadArgument(const Launcher& launcher, const QString& wad)
+SwitchInputs InputsOf(const Truth& truth, const Settings& inForce, LaunchPath path, GameFamily family)
 {
-    const QString& iwad = launcher.launch.SelectedIwadPath;
-    if (IsIwadMissing(wad, launcher.files, launcher.paths, launcher.environment))
-        return u" -iwad \""_s + NativePath(iwad) + u"\" "_s;
-    return u" -"_s + BaseNameOf(iwad) + u' ';
+    const ResourcePacks& packs = truth.facts.resources;
+    return {.on = inForce,
+            .path = path,
+            .startChoice = truth.startChoice(),
+            .textureFolder = packs.texturesAreOwn ? QString() : packs.textures,
+            .manualPlaylist = playlistThatExists(truth.facts, inForce.PlaylistName),
+            .automaticPlaylist = playlistThatExists(truth.facts, GetAutoPlaylist(truth.facts, family)),
+            .scriptedMap = truth.isScriptedMap()};
 }
 
-QString StartSwitches(const Launcher& launcher)
+LaunchMessage DoubleQuoteMessage()
 {
-    const LaunchState& launch = launcher.launch;
-    if (launch.StartChoice == StartChoice::ChosenMap && !launch.WarpArgument.isEmpty())
-        return u"-wp "_s + launch.WarpArgument + u' ';
-    if (launch.StartChoice == StartChoice::ChosenSavegame)
-        return u"-loadgame "_s + launch.SaveSlot + u' ';
-    return {};
+    return {
+        u"A file or folder name holds a double quote, which the engine's command line cannot carry.    \r\n"
+        "Rename it and try again.    "_s,
+        u" Launch error"_s};
 }
 
-QString CustomText(const Launcher& launcher)
-{
-    const QString& text = launcher.settings.CustomText;
-    return text.isEmpty() ? QString() : text + u' ';
-}
-
-LaunchPlan FinishPlan(Launcher& launcher, LaunchPlan plan, const QString& commandLine,
+LaunchPlan FinishPlan(const Truth& truth, LaunchPlan plan, const QString& commandLine, GameFamily family,
                       const QStringList& names)
 {
-    const QString own = commandLine + StartSwitches(launcher);
-    if (canBeQuoted(launcher, own, names))
-        plan.commandLine = own + CustomText(launcher);
+    const QString own = commandLine + startSwitches(truth);
+    if (canBeQuoted(truth, own, family, names))
+        plan.commandLine = own + customText(truth.settings);
     else
-        plan.refusal =
-            LaunchMessage{u"A file or folder name holds a double quote, which the engine's command "
-                          "line cannot carry.    \r\nRename it and try again.    "_s,
-                          u" Launch error"_s};
+        plan.refusal = DoubleQuoteMessage();
     return plan;
 }

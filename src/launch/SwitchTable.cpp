@@ -1,7 +1,5 @@
 #include "launch/SwitchTable.h"
 
-#include "options/EffectModes.h"
-#include "options/PresenceChecks.h"
 #include "platform/Paths.h"
 
 #include <array>
@@ -12,16 +10,11 @@ namespace {
 
 using In = const SwitchInputs&;
 
-// The conditions' own words. An option is `on` when its setting is; an option whose pack is missing counts
-// as off.
+// The conditions' own words.
 
 const Settings& on(In in)
 {
-    return in.launcher.settings;
-}
-const Controls& box(In in)
-{
-    return in.launcher.controls;
+    return in.on;
 }
 
 bool commercial(In in)
@@ -32,74 +25,29 @@ bool notScripted(In in)
 {
     return !in.scriptedMap;
 }
-bool skillChosen(In in)
-{
-    return on(in).Skill != 0;
-}
-
 bool sound(In in)
 {
     return !on(in).DisableSound;
 }
-bool music(In in)
-{
-    return sound(in) && !on(in).DisableMusic;
-}
-bool monsters(In in)
-{
-    return !on(in).NoMonsters;
-}
-bool fx(In in)
-{
-    return FxInForce(in.launcher);
-}
-bool kelspackAllowed(In in)
-{
-    return !on(in).BasicDoom && !on(in).CoreEffects && !on(in).EditMode && !fx(in);
-}
-bool skyboxes(In in)
-{
-    return on(in).Skyboxes && in.launcher.resources.skyboxes && !on(in).BasicDoom;
-}
 bool consoleCommands(In in)
 {
-    return !on(in).BasicDoom && (!commercial(in) || !fx(in));
+    return !on(in).BasicDoom && (!commercial(in) || !on(in).Fx);
 }
 bool ricochets(In in)
 {
-    return consoleCommands(in) && in.launcher.launch.RicochetOn;
+    return consoleCommands(in) && on(in).RicochetSetting;
 }
 bool light(In in)
 {
-    return consoleCommands(in) && (commercial(in) || notScripted(in));
+    return consoleCommands(in) && notScripted(in);
 }
-bool basicDoom(In in)
+bool basicEffects(In in)
 {
-    return on(in).BasicDoom && notScripted(in);
+    return on(in).BasicDoom && on(in).Fx;
 }
-bool grenades(In in)
+bool textureFolder(In in)
 {
-    return on(in).GrenadeLauncher && (commercial(in) || box(in).ChkGL.enabled);
-}
-
-QString playlistFile(In in, const QString& name)
-{
-    return in.launcher.paths.MusicLaunchPath + name + u".vym"_s;
-}
-bool playlistExists(In in, const QString& name)
-{
-    return !name.isEmpty() && in.launcher.files.fileExists(playlistFile(in, name));
-}
-bool texturesUsed(In in)
-{
-    return HighResTexturesUsed(in.launcher);
-}
-bool ownTextureFolder(In in)
-{
-    const QString location = WithSlashes(box(in).HiResText.text.trimmed());
-    return texturesUsed(in) && (commercial(in) || !on(in).BasicDoom) &&
-           !SameName(location, in.launcher.paths.RootPath + u"/Data/Textures"_s) &&
-           in.launcher.files.folderExists(on(in).TexturePath);
+    return on(in).HighResTextures && (commercial(in) || !on(in).BasicDoom) && !in.textureFolder.isEmpty();
 }
 
 QString quoted(const QString& value)
@@ -191,78 +139,73 @@ struct Row
 // clang-format off
 constexpr Row rows[] = {
     {Switch::DevelopmentMap, u"-devmap -debug_scp -listloresfm ", [](In in) { return on(in).DevelopmentMode; }},
-    {Switch::Kelspack, u"-fp ", [](In in) { return kelspackAllowed(in) && on(in).KelspackWeapons && box(in).chkAltModels[1].enabled; }},
-    {Switch::KelspackAlternative, u"-ap ", [](In in) { return kelspackAllowed(in) && on(in).KelspackAlternative && box(in).chkAltModels[2].enabled; }},
-    {Switch::Replacements, u"-am ", [](In in) { return !on(in).BasicDoom && !on(in).CoreEffects && on(in).TovrensReplacements
-        && box(in).chkAltModels[3].ticked() && box(in).chkAltModels[3].enabled; }},
+    {Switch::Kelspack, u"-fp ", [](In in) { return on(in).KelspackWeapons; }},
+    {Switch::KelspackAlternative, u"-ap ", [](In in) { return on(in).KelspackAlternative; }},
+    {Switch::Replacements, u"-am ", [](In in) { return on(in).TovrensReplacements; }},
     {Switch::ScriptedModels, u"-am ", [](In in) { return in.scriptedMap && in.scriptedMapModels; }},
-    {Switch::NoPatches, u"-np ", [](In in) { return notScripted(in) && !(on(in).HighResPatches && in.launcher.resources.patches); }},
-    {Switch::NoTextures, u"-nht ", [](In in) { return notScripted(in) && !texturesUsed(in); }},
-    {Switch::TextureFolder, u"-td \"", ownTextureFolder, [](In in) { return quoted(NativePath(on(in).TexturePath)); }},
+    {Switch::NoPatches, u"-np ", [](In in) { return notScripted(in) && !on(in).HighResPatches; }},
+    {Switch::NoTextures, u"-nht ", [](In in) { return notScripted(in) && !on(in).HighResTextures; }},
+    {Switch::TextureFolder, u"-td \"", textureFolder, [](In in) { return quoted(NativePath(in.textureFolder)); }},
     {Switch::NoSound, u"-nosound ", [](In in) { return !sound(in); }},
-    {Switch::SoundPack, u"-data hv_doom_sfx.wad ", [](In in) { return sound(in) && on(in).HiResSoundPack && box(in).chkSound[6].enabled; }},
-    {Switch::Sound3D, u"-3d ", [](In in) { return sound(in) && on(in).Sound3D; }},
+    {Switch::SoundPack, u"-data hv_doom_sfx.wad ", [](In in) { return on(in).HiResSoundPack; }},
+    {Switch::Sound3D, u"-3d ", [](In in) { return on(in).Sound3D; }},
     {Switch::Channels, u"-ch ", [](In in) { return sound(in) && on(in).AudioChannels >= 1; }, [](In in) { return number(on(in).AudioChannels); }},
     {Switch::UsualChannels, u"-ch 128 ", [](In in) { return sound(in) && on(in).AudioChannels < 1; }},
-    {Switch::SkinScaling, u"-dsst ", [](In in) { return sound(in) && on(in).SkinScaling >= 1 && box(in).cbScaler.enabled; },
-        [](In in) { return number(on(in).SkinScaling); }},
-    {Switch::NoMusic, u"-nomusic ", [](In in) { return sound(in) && !music(in); }},
-    {Switch::ManualPlaylist, u"-extmus \"", [](In in) { return music(in) && notScripted(in) && on(in).ManualPlaylistOn && playlistExists(in, on(in).PlaylistName); },
-        [](In in) { return quoted(BaseNameOf(on(in).PlaylistName)); }},
-    {Switch::AutomaticPlaylist, u"-extmus \"", [](In in) { return music(in) && notScripted(in) && on(in).AutoPlaylistsOn && playlistExists(in, in.automaticPlaylist); },
+    {Switch::SkinScaling, u"-dsst ", [](In in) { return on(in).SkinScaling >= 1; }, [](In in) { return number(on(in).SkinScaling); }},
+    {Switch::NoMusic, u"-nomusic ", [](In in) { return on(in).DisableMusic; }},
+    {Switch::ManualPlaylist, u"-extmus \"", [](In in) { return on(in).ManualPlaylistOn && !in.manualPlaylist.isEmpty(); },
+        [](In in) { return quoted(BaseNameOf(in.manualPlaylist)); }},
+    {Switch::AutomaticPlaylist, u"-extmus \"", [](In in) { return on(in).AutoPlaylistsOn && !in.automaticPlaylist.isEmpty(); },
         [](In in) { return quoted(BaseNameOf(in.automaticPlaylist)); }},
-    {Switch::IgnorePlaylist, u"-upm ", [](In in) { return music(in) && on(in).IgnorePlaylistIfCustomMusic && box(in).chkSound[10].enabled; }},
-    {Switch::FmodMidi, u"-FMODmidi ", [](In in) { return music(in) && on(in).ForceFmodMidi && box(in).chkSound[9].enabled; }},
+    {Switch::IgnorePlaylist, u"-upm ", [](In in) { return on(in).IgnorePlaylistIfCustomMusic; }},
+    {Switch::FmodMidi, u"-FMODmidi ", [](In in) { return on(in).ForceFmodMidi; }},
     {Switch::Boom, u"-boom ", [](In in) { return in.wadCheckResult == 3 && !on(in).EditMode; }},
-    {Switch::CoreEffects, u"-xa -spf ", [](In in) { return !on(in).BasicDoom && !fx(in)
-        && (commercial(in) ? !box(in).ChkModelOpts[3].enabled || on(in).CoreEffects : on(in).CoreEffects && notScripted(in)); }},
-    {Switch::NoForcedModels, u"-noamwds ", [](In in) { return !on(in).BasicDoom && on(in).NoForcedModels && box(in).ChkModelOpts[1].enabled && notScripted(in); }},
-    {Switch::ExtraFx, u"-fx ", [](In in) { return !on(in).BasicDoom && on(in).ExtraFx && box(in).chkEffects[3].enabled && notScripted(in); }},
-    {Switch::PistolZombies, u"-spz ", [](In in) { return !on(in).BasicDoom && on(in).PistolZombies && on(in).TovrensReplacements
-        && box(in).chkAltModels[0].enabled && box(in).chkAltModels[0].ticked(); }},
+    {Switch::CoreEffects, u"-xa -spf ", [](In in) { return on(in).CoreEffects; }},
+    {Switch::NoForcedModels, u"-noamwds ", [](In in) { return on(in).NoForcedModels; }},
+    {Switch::ExtraFx, u"-fx ", [](In in) { return on(in).ExtraFx; }},
+    {Switch::PistolZombies, u"-spz ", [](In in) { return on(in).PistolZombies; }},
     {Switch::NoMouse, u"-nomouse ", [](In in) { return on(in).DisableMouse; }},
     {Switch::NoSplashes, u"-spx ", [](In in) { return !on(in).SplashEffects && !on(in).BasicDoom && notScripted(in); }},
-    {Switch::Respawn, u"-respawn ", [](In in) { return on(in).MonsterRespawn && monsters(in); }},
-    {Switch::RespawnInstalled, u"-ReSpawn ", [](In in) { return on(in).MonsterRespawn && monsters(in) && notScripted(in); }},
-    {Switch::NoSameType, u"-noif1 ", [](In in) { return on(in).NoSameTypeInfighting && monsters(in) && notScripted(in); }},
-    {Switch::NoLostSoul, u"-noif2 ", [](In in) { return on(in).NoLostSoulInfighting && monsters(in) && notScripted(in); }},
-    {Switch::Grenades, u"-gnd ", [](In in) { return grenades(in) && on(in).GrenadeTime != 0; }, [](In in) { return number(on(in).GrenadeTime); }},
-    {Switch::Pipebombs, u"-pbm ", [](In in) { return grenades(in) && on(in).GrenadeTime == 0; }},
-    {Switch::NoMonsters, u"-nm ", [](In in) { return !monsters(in); }},
-    {Switch::DetailTextures, u"-dt ", [](In in) { return !texturesUsed(in) && on(in).DetailTextures && in.launcher.resources.detailTextures; }},
+    {Switch::Respawn, u"-respawn ", [](In in) { return on(in).MonsterRespawn; }},
+    {Switch::RespawnInstalled, u"-ReSpawn ", [](In in) { return on(in).MonsterRespawn; }},
+    {Switch::NoSameType, u"-noif1 ", [](In in) { return on(in).NoSameTypeInfighting; }},
+    {Switch::NoLostSoul, u"-noif2 ", [](In in) { return on(in).NoLostSoulInfighting; }},
+    {Switch::Grenades, u"-gnd ", [](In in) { return on(in).GrenadeLauncher && on(in).GrenadeTime != 0; }, [](In in) { return number(on(in).GrenadeTime); }},
+    {Switch::Pipebombs, u"-pbm ", [](In in) { return on(in).GrenadeLauncher && on(in).GrenadeTime == 0; }},
+    {Switch::NoMonsters, u"-nm ", [](In in) { return on(in).NoMonsters; }},
+    {Switch::DetailTextures, u"-dt ", [](In in) { return on(in).DetailTextures; }},
     {Switch::NoJoystick, u"-nojoy ", [](In in) { return on(in).DisableJoystick; }},
-    {Switch::Skyboxes, u"-usb ", [](In in) { return in.scriptedMap || (skyboxes(in) && on(in).SkyMode == 0); }},
-    {Switch::ForcedSkyboxes, u"-fsb ", [](In in) { return notScripted(in) && skyboxes(in) && on(in).SkyMode == 1; }},
-    {Switch::Resurrect, u"-ro ", [](In in) { return on(in).ResurrectCorpses && monsters(in); }},
-    {Switch::CorpseTime, u"-ct ", [](In in) { return monsters(in) && box(in).Corpse.text != u"0"; }, [](In in) { return box(in).Corpse.text + u' '; }},
+    {Switch::Skyboxes, u"-usb ", [](In in) { return in.scriptedMap || (on(in).Skyboxes && on(in).SkyMode == 0); }},
+    {Switch::ForcedSkyboxes, u"-fsb ", [](In in) { return on(in).Skyboxes && on(in).SkyMode == 1; }},
+    {Switch::Resurrect, u"-ro ", [](In in) { return on(in).ResurrectCorpses; }},
+    {Switch::CorpseTime, u"-ct ", [](In in) { return !on(in).NoMonsters && on(in).CorpseSeconds != 0; }, [](In in) { return number(on(in).CorpseSeconds); }},
     {Switch::Console, u"-cmd ", consoleCommands},
-    {Switch::Ricochets, u"\"audio-ricoh ", [](In in) { return ricochets(in) && on(in).RicochetSetting; },
+    {Switch::Ricochets, u"\"audio-ricoh ", [](In in) { return ricochets(in) && on(in).RicochetInterval != 0; },
         [](In in) { return quoted(QString::number(on(in).RicochetInterval)); }},
-    {Switch::NoRicochets, u"\"audio-ricoh 0\" ", [](In in) { return ricochets(in) && !on(in).RicochetSetting; }},
+    {Switch::NoRicochets, u"\"audio-ricoh 0\" ", [](In in) { return ricochets(in) && on(in).RicochetInterval == 0; }},
     {Switch::Light, u"\"rend-light 1\" ", [](In in) { return light(in) && on(in).DynamicLighting; }},
     {Switch::NoLight, u"\"rend-light 0\" ", [](In in) { return light(in) && !on(in).DynamicLighting; }},
     {Switch::Smoke, u"\"rend-smoke 1\" ", [](In in) { return consoleCommands(in) && on(in).GunSmoke; }},
     {Switch::NoSmoke, u"\"rend-smoke 0\" ", [](In in) { return consoleCommands(in) && !on(in).GunSmoke; }},
     {Switch::LessSmoke, u"-smn ", [](In in) { return on(in).GunSmoke && on(in).SmokeMode == 1; }},
-    {Switch::Fast, u"-fast ", [](In in) { return on(in).FastMonsters && monsters(in); }},
-    {Switch::NoCore, u"-nc ", basicDoom},
-    {Switch::BasicEffects, u"-xa -spf ", [](In in) { return basicDoom(in) && fx(in); }},
-    {Switch::BasicNoSplashes, u"-spx ", [](In in) { return basicDoom(in) && fx(in) && !on(in).SplashEffects; }},
-    {Switch::NoSprites, u"-nws ", [](In in) { return basicDoom(in) && !fx(in); }},
-    {Switch::BasicConsole, u"-cmd ", [](In in) { return basicDoom(in) && fx(in); }},
-    {Switch::BasicLight, u"\"rend-light 1\" ", [](In in) { return basicDoom(in) && fx(in) && on(in).DynamicLighting; }},
-    {Switch::BasicNoLight, u"\"rend-light 0\" ", [](In in) { return basicDoom(in) && fx(in) && !on(in).DynamicLighting; }},
+    {Switch::Fast, u"-fast ", [](In in) { return on(in).FastMonsters; }},
+    {Switch::NoCore, u"-nc ", [](In in) { return on(in).BasicDoom; }},
+    {Switch::BasicEffects, u"-xa -spf ", basicEffects},
+    {Switch::BasicNoSplashes, u"-spx ", [](In in) { return basicEffects(in) && !on(in).SplashEffects; }},
+    {Switch::NoSprites, u"-nws ", [](In in) { return on(in).BasicDoom && !on(in).Fx; }},
+    {Switch::BasicConsole, u"-cmd ", basicEffects},
+    {Switch::BasicLight, u"\"rend-light 1\" ", [](In in) { return basicEffects(in) && on(in).DynamicLighting; }},
+    {Switch::BasicNoLight, u"\"rend-light 0\" ", [](In in) { return basicEffects(in) && !on(in).DynamicLighting; }},
     {Switch::StaticTextures, u"-stx ", [](In in) { return in.wadCheckResult == 5; }},
     {Switch::NextMap, u"-c_nextmap ", [](In in) { return in.wadCheckResult == 6; }},
     {Switch::MapFormat, u"-mfo ", [](In in) { return in.wadCheckResult == 4; }},
     {Switch::LateAlternative, u"-ap ", [](In in) { return in.lateAlternativeWeapons; }},
     {Switch::Verbose, u"-v ", [](In in) { return on(in).Verbose; }},
-    {Switch::Skill, u"-sk ", [](In in) { return skillChosen(in) && in.launcher.launch.StartChoice != StartChoice::NewGame; },
-        [](In in) { return number(on(in).Skill); }},
+    {Switch::Skill, u"-sk ", [](In in) { return in.startChoice != StartChoice::NewGame; }, [](In in) { return number(on(in).Skill); }},
     {Switch::TextureEdit, u"-txe ", [](In in) { return on(in).EditMode; }},
     {Switch::Lean, u"-lean ", [](In in) { return on(in).EditMode && on(in).DevelopmentMode; }},
-    {Switch::NoObjects, u"-txn ", [](In in) { return on(in).EditMode && on(in).NoObjects; }},
-    {Switch::LightLevel, u"-txa ", [](In in) { return on(in).EditMode && on(in).Light; }, [](In in) { return number(on(in).LightLevel); }},
+    {Switch::NoObjects, u"-txn ", [](In in) { return on(in).NoObjects; }},
+    {Switch::LightLevel, u"-txa ", [](In in) { return on(in).Light; }, [](In in) { return number(on(in).LightLevel); }},
 };
 // clang-format on
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Selection.h"
+#include "state/Settings.h"
 
 // The engine's option switches: which text stands for which option, under which condition, with which
 // value. Every text ends in one blank and so does every value that follows one; the texts simply join.
@@ -9,9 +10,12 @@ enum class LaunchPath { CommercialGame, InstalledGame };
 
 struct SwitchInputs
 {
-    const Launcher& launcher;
+    const Settings& on; // the options in force: what is greyed is off
     LaunchPath path;
-    QString automaticPlaylist; // the playlist chosen for the IWAD; empty when none is
+    StartChoice startChoice = StartChoice::NewGame;
+    QString textureFolder = {};     // with '/'; empty when it is the installation's own, or there is none
+    QString manualPlaylist = {};    // empty when there is none, here as below
+    QString automaticPlaylist = {}; // the one chosen for the IWAD
 
     // Of an installed game only.
     bool scriptedMap = false;

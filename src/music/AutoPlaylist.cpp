@@ -19,24 +19,20 @@ const QStringList initialLines{
     u"TNT - Placeholder"_s,
 };
 
-const struct
-{
-    QStringView iwad; // its base name
-    int line;         // from 0
-} lineOfIwad[] = {
-    {u"Doom1", 1}, {u"Doom", 1}, {u"Doom2", 2}, {u"Plutonia", 3}, {u"Tnt", 4},
-};
+// By family; the shareware's is Doom's.
+constexpr AutoGame gameOfFamily[] = {AutoGame::Doom, AutoGame::Doom, AutoGame::Doom2, AutoGame::Tnt,
+                                     AutoGame::Plutonia};
 
-QString pathOf(const Launcher& launcher)
+QString pathOf(const InstallationPaths& paths)
 {
-    return launcher.paths.LaunchPath + u"music/auto-playlist.vyk"_s;
+    return paths.LaunchPath + u"music/auto-playlist.vyk"_s;
 }
 
 // The lines, each as it stands; those that are missing, or all of a file that cannot be ours, are the initial
 // ones.
-QStringList readLines(const Launcher& launcher)
+QStringList readLines(const FileSystem& files, const QString& path)
 {
-    const QByteArray bytes = launcher.files.read(pathOf(launcher), maximumBytes);
+    const QByteArray bytes = files.read(path, maximumBytes);
     QStringList lines = bytes.size() < maximumBytes ? LinesOf(FromAnsi(bytes)) : QStringList();
     while (lines.size() < initialLines.size())
         lines << initialLines.at(lines.size());
@@ -51,39 +47,28 @@ QString asField(const QString& name)
 
 } // namespace
 
-bool HasAutoPlaylists(const Launcher& launcher)
+QStringList ReadAutoPlaylists(const FileSystem& files, const InstallationPaths& paths)
 {
-    return launcher.files.fileExists(pathOf(launcher));
-}
-
-void GetAutoPlaylist(Launcher& launcher)
-{
-    MusicState& music = launcher.music;
-    const QString iwad = BaseNameOf(launcher.launch.SelectedIwadPath);
-    const auto* const row = std::ranges::find_if(
-        lineOfIwad, [&](const auto& known) { return SameName(iwad, known.iwad.toString()); });
+    QStringList playlists;
     try {
-        if (row != std::end(lineOfIwad) && HasAutoPlaylists(launcher))
-            music.AutoPlaylistName = FieldsOf(readLines(launcher).at(row->line)).value(0);
+        if (files.fileExists(pathOf(paths)))
+            for (const QString& line : readLines(files, pathOf(paths)).mid(1, initialLines.size() - 1))
+                playlists << FieldsOf(line).value(0);
     } catch (const FileError&) {
         // One that cannot be read is as good as none.
     }
-    music.AutoPlaylistFound = !music.AutoPlaylistName.isEmpty() &&
-                              launcher.controls.SelectionList.find(music.AutoPlaylistName) >= 0;
+    return playlists;
 }
 
-QString AutomaticPlaylist(Launcher& launcher)
+QString GetAutoPlaylist(const Facts& facts, GameFamily family)
 {
-    if (!launcher.settings.AutoPlaylistsOn)
-        return {};
-    GetAutoPlaylist(launcher);
-    return launcher.music.AutoPlaylistFound ? launcher.music.AutoPlaylistName : QString();
+    return facts.autoPlaylists.value(static_cast<int>(gameOfFamily[static_cast<size_t>(family)]));
 }
 
-void SetAutoPlaylist(Launcher& launcher, int game)
+void SetAutoPlaylist(FileSystem& files, const InstallationPaths& paths, const QString& name, AutoGame game)
 {
-    QStringList lines = HasAutoPlaylists(launcher) ? readLines(launcher) : initialLines;
-    lines[game + 1] = asField(launcher.settings.PlaylistName);
-    launcher.files.createFolder(launcher.paths.MusicLaunchPath);
-    WriteLines(launcher.files, pathOf(launcher), lines);
+    QStringList lines = files.fileExists(pathOf(paths)) ? readLines(files, pathOf(paths)) : initialLines;
+    lines[static_cast<int>(game) + 1] = asField(name);
+    files.createFolder(paths.MusicLaunchPath);
+    WriteLines(files, pathOf(paths), lines);
 }

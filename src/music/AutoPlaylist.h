@@ -1,16 +1,16 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/ControlNames.h"
+#include "state/Facts.h"
+#include "state/InstallationPaths.h"
 
 // Which playlist goes with which Doom game: auto-playlist.vyk.
 
-bool HasAutoPlaylists(const Launcher& launcher);
+// The playlists of Doom, Doom II, Plutonia and TNT; none without the file.
+QStringList ReadAutoPlaylists(const FileSystem& files, const InstallationPaths& paths);
 
-// Reads the playlist of the selected IWAD into the music state, and whether it is among the playlists.
-void GetAutoPlaylist(Launcher& launcher);
+// The playlist of a family; empty without the file.
+QString GetAutoPlaylist(const Facts& facts, GameFamily family);
 
-// The playlist for the next launch when the player lets the launcher choose; empty when there is none.
-QString AutomaticPlaylist(Launcher& launcher);
-
-// Makes the selected playlist that of a game: 0 Doom, 1 Doom II, 2 Plutonia, 3 TNT. Throws FileError.
-void SetAutoPlaylist(Launcher& launcher, int game);
+// Makes the playlist `name` that of a game. Throws FileError.
+void SetAutoPlaylist(FileSystem& files, const InstallationPaths& paths, const QString& name, AutoGame game);

@@ -27,12 +27,12 @@ void LoadMusicFolder(Launcher& launcher)
     } catch (const FileError&) {
         // The next choice writes it anew.
     }
-    launcher.music.MusicFolder = launcher.files.folderExists(folder) ? folder : QString();
+    launcher.session.MusicFolder = launcher.files.folderExists(folder) ? folder : QString();
 }
 
 void KeepMusicFolder(Launcher& launcher, const QString& folder)
 {
-    launcher.music.MusicFolder = folder;
+    launcher.session.MusicFolder = folder;
     try {
         launcher.files.createFolder(launcher.paths.MusicLaunchPath);
         WriteLines(launcher.files, pathOf(launcher), {u'"' + NativePath(folder) + u'"'});

@@ -1,12 +1,12 @@
 #include "music/PlaylistEditor.h"
 
-#include "launch/TextEditor.h"
 #include "music/BuiltInPlaylists.h"
 #include "music/MapConversion.h"
 #include "music/MusicFolder.h"
 #include "music/Playlists.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
+#include "shell/TextEditor.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,7 +49,7 @@ void ReportPlaylistError(Prompts& prompts)
 
 void PlaylistEditor::startNew()
 {
-    m_mapType = usualType(m_launcher.iwads);
+    m_mapType = usualType(m_launcher.facts.iwads);
     m_list = {.lines = StandardLayout(GameOf(*m_mapType))};
     m_unsaved = true;
 }
@@ -68,7 +68,7 @@ bool PlaylistEditor::open()
         return true;
     }
     if (!m_mapType)
-        m_mapType = usualType(m_launcher.iwads);
+        m_mapType = usualType(m_launcher.facts.iwads);
     else if (HasIntermission(m_list.lines) && IsStandardFormat(m_list.lines, *m_mapType))
         return true;
     if (HasIntermission(m_list.lines) && !asksYes(m_launcher.prompts,
@@ -128,7 +128,7 @@ void PlaylistEditor::AddMusic(int line)
     if (!isEntry(line))
         return;
     LoadMusicFolder(m_launcher);
-    const QString folder = m_launcher.music.MusicFolder;
+    const QString folder = m_launcher.session.MusicFolder;
     const QString path = m_launcher.prompts.chooseFile(
         {.title = u"Add or Replace a music file to the Playlist"_s,
          .filter = u"All Files"_s,
@@ -217,7 +217,7 @@ bool PlaylistEditor::SaveList(const QString& name, const QStringList& lines)
         ReportPlaylistError(m_launcher.prompts);
         return false;
     }
-    FillPlaylistList(m_launcher);
+    ReadPlaylists(m_launcher);
     return true;
 }
 

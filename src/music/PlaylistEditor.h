@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Launcher.h"
 #include "music/PlaylistFile.h"
 #include "music/PlaylistLayout.h"
+#include "state/Launcher.h"
 
 #include <optional>
 

@@ -3,17 +3,13 @@
 #include "music/AutoPlaylist.h"
 #include "music/BuiltInPlaylists.h"
 #include "music/PlaylistEditor.h"
-#include "options/SoundOptions.h"
+#include "options/OptionValues.h"
 #include "platform/FileNames.h"
 #include "platform/Paths.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t autoBox = 4; // chkSound
-constexpr size_t manualBox = 5;
-enum Command : size_t { New, Open, Delete }; // butMusic
 
 const struct
 {
@@ -32,24 +28,11 @@ QString ending()
     return u".vym"_s;
 }
 
-void allowCommands(Controls& controls)
+// The chosen entry is the playlist; a name that no file has is none.
+QString chosenPlaylist(const Launcher& launcher)
 {
-    const bool any = !controls.SelectionList.isEmpty();
-    controls.butMusic[Open].enabled = controls.butMusic[Delete].enabled = any;
-    controls.chkSound[autoBox].enabled = controls.chkSound[manualBox].enabled = any;
-}
-
-// The selected entry is the playlist; a name that no file has is none.
-void takeSelected(Launcher& launcher)
-{
-    launcher.settings.PlaylistName = launcher.controls.SelectionList.selectedText();
-}
-
-void edit(Launcher& launcher, PlaylistEditor& editor)
-{
-    launcher.window.showMusicForm(editor);
-    if (!launcher.files.fileExists(PlaylistPath(launcher.paths, launcher.settings.PlaylistName)))
-        takeSelected(launcher); // a new one was not saved
+    const QString& name = launcher.settings.PlaylistName;
+    return launcher.facts.playlists.contains(name, Qt::CaseInsensitive) ? name : QString();
 }
 
 // Nothing when the player cancels or must not have it.
@@ -79,113 +62,96 @@ std::optional<QString> askNewName(Launcher& launcher)
 void newClicked(Launcher& launcher)
 {
     if (const auto name = askNewName(launcher)) {
-        launcher.settings.PlaylistName = *name;
+        const QString before = std::exchange(launcher.settings.PlaylistName, *name);
         PlaylistEditor editor(launcher);
         editor.startNew();
-        edit(launcher, editor);
+        launcher.window.showMusicForm(editor);
+        if (!launcher.files.fileExists(PlaylistPath(launcher.paths, *name)))
+            launcher.settings.PlaylistName = before; // the new one was not saved
     }
-    allowCommands(launcher.controls);
 }
 
 void openClicked(Launcher& launcher)
 {
-    takeSelected(launcher);
     const QString path = PlaylistPath(launcher.paths, launcher.settings.PlaylistName);
     PlaylistEditor editor(launcher);
     if (launcher.files.fileExists(path) && editor.open())
-        edit(launcher, editor);
-    allowCommands(launcher.controls);
+        launcher.window.showMusicForm(editor);
 }
 
 void deleteClicked(Launcher& launcher)
 {
-    ListBox& list = launcher.controls.SelectionList;
-    const QString name = list.selectedText();
-    if (!name.isEmpty() &&
-        launcher.prompts.MsgboxPos(u"Are you certain you wish to delete "_s + name + u"   "_s,
-                                   Msg::YesNo + Msg::Question,
-                                   u" Delete Selected Playlist"_s) == Msg::ResultYes) {
-        try {
-            launcher.files.remove(PlaylistPath(launcher.paths, name));
-            list.remove(list.selected());
-            list.select(list.count() - 1);
-            takeSelected(launcher);
-        } catch (const FileError&) {
-            ReportPlaylistError(launcher.prompts);
-        }
+    const QString name = chosenPlaylist(launcher);
+    if (name.isEmpty() || launcher.prompts.MsgboxPos(
+                              u"Are you certain you wish to delete "_s + name + u"   "_s,
+                              Msg::YesNo + Msg::Question, u" Delete Selected Playlist"_s) != Msg::ResultYes)
+        return;
+    try {
+        launcher.files.remove(PlaylistPath(launcher.paths, name));
+        ReadPlaylists(launcher);
+        launcher.settings.PlaylistName =
+            launcher.facts.playlists.isEmpty() ? QString() : launcher.facts.playlists.last();
+    } catch (const FileError&) {
+        ReportPlaylistError(launcher.prompts);
     }
-    allowCommands(launcher.controls);
 }
 
 void autoClicked(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
-    const bool on = controls.chkSound[autoBox].ticked();
-    launcher.settings.AutoPlaylistsOn = on;
-    controls.chkSound[autoBox].colour = on ? Colour::Red : Colour::Normal;
-    if (on)
-        controls.chkSound[manualBox].setTicked(false);
-    controls.SelectionList.enabled = controls.butMusic[New].enabled = !on;
-    controls.butMusic[Open].enabled = controls.butMusic[Delete].enabled =
-        !on && !controls.SelectionList.isEmpty();
-    DisableMusic(launcher); // there may be no music at all
-}
-
-void manualClicked(Launcher& launcher)
-{
-    CheckBox& manual = launcher.controls.chkSound[manualBox];
-    const bool on = manual.ticked();
-    launcher.settings.ManualPlaylistOn = on;
-    manual.colour = on ? Colour::Red : Colour::Normal;
-    manual.caption = on ? u"Load"_s : u"Manual"_s;
-    if (on)
-        launcher.controls.chkSound[autoBox].setTicked(false);
-}
-
-void autoChosen(Launcher& launcher)
-{
-    if (HasAutoPlaylists(launcher))
+    Settings& settings = launcher.settings;
+    if (!settings.AutoPlaylistsOn)
+        return;
+    settings.ManualPlaylistOn = false;
+    ReadPlaylists(launcher);
+    if (!launcher.facts.autoPlaylists.isEmpty())
         return;
     launcher.prompts.MsgboxPos(u"No auto playlist has been detected, to create an auto playlist   "_s +
                                    u"\r\n"_s +
                                    u"right-click on a playlist entry and then specify an iwad type.   "_s,
                                Msg::Ok + Msg::Information, u" No auto playlist detected "_s);
-    launcher.controls.chkSound[autoBox].setTicked(false);
+    settings.AutoPlaylistsOn = false;
 }
 
-void manualChosen(Launcher& launcher)
+void manualClicked(Launcher& launcher)
 {
-    if (launcher.controls.SelectionList.selected() >= 0)
+    Settings& settings = launcher.settings;
+    if (!settings.ManualPlaylistOn)
+        return;
+    settings.AutoPlaylistsOn = false;
+    if (!chosenPlaylist(launcher).isEmpty())
         return;
     launcher.prompts.MsgboxPos(
         u"No playlist has been selected, first highlight one of the above playlists    "_s,
         Msg::Ok + Msg::Information, u" No auto playlist detected "_s);
-    launcher.controls.chkSound[manualBox].setTicked(false);
+    settings.ManualPlaylistOn = false;
 }
 
-void assign(Launcher& launcher, int game)
+void assign(Launcher& launcher, AutoGame game)
 {
-    takeSelected(launcher);
+    const QString name = chosenPlaylist(launcher);
     try {
-        SetAutoPlaylist(launcher, game);
+        SetAutoPlaylist(launcher.files, launcher.paths, name, game);
     } catch (const FileError&) {
         ReportPlaylistError(launcher.prompts);
         return;
     }
-    launcher.prompts.MsgboxPos(
-        u"     "_s + launcher.settings.PlaylistName + u"  has been added to your auto selection.         "_s,
-        Msg::Ok + Msg::Information, u" Auto playlist selection for "_s + autoGames[game].title);
+    ReadPlaylists(launcher);
+    launcher.prompts.MsgboxPos(u"     "_s + name + u"  has been added to your auto selection.         "_s,
+                               Msg::Ok + Msg::Information,
+                               u" Auto playlist selection for "_s +
+                                   autoGames[static_cast<size_t>(game)].title);
 }
 
 const Menu* playlistMenu(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    for (size_t i = 0; i < controls.mcAutoSelect.size(); ++i) {
-        const auto& game = autoGames[i];
-        controls.mcAutoSelect[i].enabled =
-            !launcher.iwads.of(game.family).isEmpty() || !launcher.iwads.of(game.orFamily).isEmpty();
+    const IwadPaths& iwads = launcher.facts.iwads;
+    const auto* game = std::begin(autoGames);
+    for (MenuItem& item : controls.mcAutoSelect) {
+        item.enabled = !iwads.of(game->family).isEmpty() || !iwads.of(game->orFamily).isEmpty();
+        ++game;
     }
-    return controls.SelectionList.selected() >= 0 ? &controls.mPopup8 : nullptr;
+    return chosenPlaylist(launcher).isEmpty() ? nullptr : &controls.mPopup8;
 }
 
 } // namespace
@@ -198,39 +164,38 @@ QString PlaylistPath(const InstallationPaths& paths, const QString& name)
 void ConnectPlaylists(Launcher& launcher)
 {
     Controls& controls = launcher.controls;
-    controls.butMusic[New].clicked = [&launcher] { newClicked(launcher); };
-    controls.butMusic[Open].clicked = [&launcher] { openClicked(launcher); };
-    controls.butMusic[Delete].clicked = [&launcher] { deleteClicked(launcher); };
-    controls.SelectionList.clicked = [&launcher] { takeSelected(launcher); };
+    controls.butMusic[PlaylistCommand::New].clicked = [&launcher] { newClicked(launcher); };
+    controls.butMusic[PlaylistCommand::Open].clicked = [&launcher] { openClicked(launcher); };
+    controls.butMusic[PlaylistCommand::Delete].clicked = [&launcher] { deleteClicked(launcher); };
+    controls.SelectionList.clicked = [&launcher] {
+        launcher.settings.PlaylistName = launcher.controls.SelectionList.selectedText();
+    };
     controls.SelectionList.doubleClicked = [&launcher] { openClicked(launcher); };
     controls.SelectionList.taskMenu = [&launcher] { return playlistMenu(launcher); };
-    controls.chkSound[autoBox].clicked = [&launcher] { autoClicked(launcher); };
-    controls.chkSound[autoBox].chosen = [&launcher] { autoChosen(launcher); };
-    controls.chkSound[manualBox].clicked = [&launcher] { manualClicked(launcher); };
-    controls.chkSound[manualBox].chosen = [&launcher] { manualChosen(launcher); };
-    for (size_t i = 0; i < controls.mcAutoSelect.size(); ++i)
-        controls.mcAutoSelect[i].clicked = [&launcher, i] { assign(launcher, static_cast<int>(i)); };
+    Then(controls.chkSound[Sound::AutoPlaylist], [&launcher] { autoClicked(launcher); });
+    Then(controls.chkSound[Sound::ManualPlaylist], [&launcher] { manualClicked(launcher); });
+    for (const AutoGame game : {AutoGame::Doom, AutoGame::Doom2, AutoGame::Plutonia, AutoGame::Tnt})
+        controls.mcAutoSelect[game].clicked = [&launcher, game] { assign(launcher, game); };
 }
 
-void FillPlaylistList(Launcher& launcher)
+QStringList FillPlaylistList(FileSystem& files, const InstallationPaths& paths)
 {
-    Controls& controls = launcher.controls;
     try {
-        launcher.files.createFolder(launcher.paths.MusicLaunchPath);
+        files.createFolder(paths.MusicLaunchPath);
     } catch (const FileError&) {
         // Then there is no playlist, and saving one says why.
     }
-    const QString selected = launcher.settings.PlaylistName;
-    controls.SelectionList.clear();
-    for (const QString& file : launcher.files.files(launcher.paths.MusicLaunchPath))
+    QStringList playlists;
+    for (const QString& file : files.files(paths.MusicLaunchPath))
         if (EndsWith(file, ending()))
-            controls.SelectionList.add(file.chopped(ending().size()));
-    controls.SelectionList.startAs(controls.SelectionList.find(selected));
-    if (!controls.SelectionList.isEmpty())
-        return;
-    controls.chkSound[autoBox].setTicked(false);
-    controls.chkSound[autoBox].enabled = controls.chkSound[manualBox].enabled = false;
-    controls.butMusic[Open].enabled = controls.butMusic[Delete].enabled = false;
+            playlists << file.chopped(ending().size());
+    return playlists;
+}
+
+void ReadPlaylists(Launcher& launcher)
+{
+    launcher.facts.playlists = FillPlaylistList(launcher.files, launcher.paths);
+    launcher.facts.autoPlaylists = ReadAutoPlaylists(launcher.files, launcher.paths);
 }
 
 void LoadPlaylists(Launcher& launcher)
@@ -239,5 +204,5 @@ void LoadPlaylists(Launcher& launcher)
     MakeTavroPlaylists(launcher);
     MakeDunhelmPlaylists(launcher);
     MakeKTorPlaylists(launcher);
-    FillPlaylistList(launcher);
+    ReadPlaylists(launcher);
 }

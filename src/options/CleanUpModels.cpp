@@ -1,6 +1,6 @@
 #include "options/CleanUpModels.h"
 
-#include "options/ModelPacks.h"
+#include "options/PackFacts.h"
 #include "options/RemovalReport.h"
 #include "platform/Text.h"
 
@@ -9,9 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t toolbarButton = 8; // AuxButton
-constexpr size_t tabButton = 2;     // ButPurge
 
 void rememberConfirmation(Launcher& launcher, const QString& path, bool neverAgain)
 {
@@ -52,8 +49,8 @@ bool removeItem(FileSystem& files, const ModelPackItem& item)
 
 void ConnectModelCleanup(Launcher& launcher)
 {
-    launcher.controls.AuxButton[toolbarButton].clicked = [&launcher] { CleanUpModels(launcher); };
-    launcher.controls.ButPurge[tabButton].clicked = [&launcher] { CleanUpModels(launcher); };
+    launcher.controls.AuxButton[Tool::CleanUpModels].clicked = [&launcher] { CleanUpModels(launcher); };
+    launcher.controls.ButPurge[Purge::Models].clicked = [&launcher] { CleanUpModels(launcher); };
 }
 
 void CleanUpModels(Launcher& launcher)
@@ -84,10 +81,6 @@ QStringList DeleteModelPacks(Launcher& launcher, const ModelCleanup& cleanup)
             failed << item.path;
     failed.removeIf(isGone); // with the folder that they were in
 
-    ModelPacks& packs = launcher.modelPacks;
-    packs.ModelPacksMissing |= cleanup.RemoveModelPack1;
-    packs.ModelPack2Installed &= !cleanup.RemoveTovrensPack;
-    packs.KelspackInstalled &= !cleanup.RemoveKelspack;
     DetectModelPacks(launcher);
     return OutermostPaths(failed);
 }

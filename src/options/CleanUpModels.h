@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Launcher.h"
 #include "options/ModelPackItems.h"
+#include "state/Launcher.h"
 
 // The model-pack cleanup tool: its button of the toolbar and that of the models tab.
 void ConnectModelCleanup(Launcher& launcher);

@@ -12,15 +12,10 @@ namespace {
 constexpr qint64 longestLine = 80; // the engine's are half as long
 constexpr qsizetype textStart = 2; // after the mode letter and a separator
 
-QString resolutionFile(const Launcher& launcher)
-{
-    return launcher.paths.RootPath + u"/Bin/VYKres.out"_s;
-}
-
-QString firstLine(const Launcher& launcher)
+QString firstLine(const FileSystem& files, const QString& path)
 {
     try {
-        return LinesOf(FromAnsi(launcher.files.read(resolutionFile(launcher), longestLine + 1))).value(0);
+        return LinesOf(FromAnsi(files.read(path, longestLine + 1))).value(0);
     } catch (const FileError&) {
         return {};
     }
@@ -41,41 +36,33 @@ QString withoutLeadingBlanks(const QString& text)
 
 } // namespace
 
-void GetCurrentRes(Launcher& launcher)
+ResolutionFacts GetCurrentRes(const FileSystem& files, const InstallationPaths& paths)
 {
-    auto& labels = launcher.controls.ResLabel;
-    launcher.resolutionRead = launcher.files.modified(resolutionFile(launcher));
-    const QString line = firstLine(launcher);
+    const QString line = firstLine(files, paths.RootPath + u"/Bin/VYKres.out"_s);
     const qsizetype star = line.lastIndexOf(u'*');
     const QString resolution =
         withoutLeadingBlanks(line.mid(textStart, star < 0 ? -1 : std::max(star - textStart, qsizetype(0))));
-    labels[1].caption = u"Default Resolution"_s;
-    labels[2].caption.clear();
-    labels[3].caption.clear();
     if (resolution.isEmpty() || resolution.startsWith(u'0') || !isUsable(line))
-        return;
+        return {};
 
-    labels[1].caption = resolution;
+    ResolutionFacts facts{.resolution = resolution, .mode = {}, .refreshRate = {}};
     const QChar mode = line.front().toUpper();
     if (mode == u'W' || mode == u'F')
-        labels[2].caption = mode == u'W' ? u"--- Windowed Mode ---"_s : u"--- Fullscreen Mode ---"_s;
+        facts.mode = mode == u'W' ? u"--- Windowed Mode ---"_s : u"--- Fullscreen Mode ---"_s;
     const QString rate = star < 0 ? QString() : line.mid(star + 1).trimmed();
-    labels[3].caption = rate == u"0 Hz" ? QString() : rate;
+    facts.refreshRate = rate == u"0 Hz" ? QString() : rate;
+    return facts;
 }
 
 bool Reset(Launcher& launcher)
 {
-    const QDateTime written = launcher.files.modified(resolutionFile(launcher));
-    if (written.isValid() && (!launcher.resolutionRead.isValid() || written > launcher.resolutionRead))
-        GetCurrentRes(launcher);
+    launcher.facts.resolution = GetCurrentRes(launcher.files, launcher.paths);
     return RefreshSaveGames(launcher);
 }
 
-void CheckDPISettings(Launcher& launcher)
+void CheckDPISettings(int logicalDpi, WindowControl& form)
 {
     constexpr int largeFonts = 120;
-    if (launcher.window.logicalDpi() != largeFonts)
-        return;
-    launcher.controls.MainForm.topOfVYKFrame = 3575;
-    launcher.controls.MainForm.leftOfImageCM = 60;
+    form.topOfVYKFrame = logicalDpi == largeFonts ? 3575 : 0;
+    form.leftOfImageCM = logicalDpi == largeFonts ? 60 : 0;
 }

@@ -1,16 +1,15 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The display mode that the engine used last, as it wrote it down.
 
-// Shows it; without a usable file "Default Resolution".
-void GetCurrentRes(Launcher& launcher);
+// Reads it; without a usable file there is none.
+ResolutionFacts GetCurrentRes(const FileSystem& files, const InstallationPaths& paths);
 
-// The window is back after a game: the savegames may have changed, the chosen map and savegame stay chosen,
-// and the resolution is read again when the engine wrote a newer one. Returns false when the savegames
-// could not be listed.
+// The window is back after a game: the savegames and the resolution may have changed. Returns false when the
+// savegames could not be listed.
 bool Reset(Launcher& launcher);
 
 // A screen of exactly 120 dots per inch has two parts of the window in other places.
-void CheckDPISettings(Launcher& launcher);
+void CheckDPISettings(int logicalDpi, WindowControl& form);

@@ -13,7 +13,7 @@ namespace {
 
 QLayout* skyRow(Controls& controls, PageBinder& make)
 {
-    QCheckBox* skyboxes = make.checkBox(u"chkGraphics"_s, controls.chkGraphics, 3);
+    QCheckBox* skyboxes = make.checkBox(u"chkGraphics"_s, controls.chkGraphics, Graphics::Skyboxes);
     const auto modes = make.optionButtons(u"SkyOpt"_s, controls.SkyOpt, {u"Sky mode 2"_s, u"Sky mode 1"_s});
     return PageBinder::row({skyboxes, modes.at(0), modes.at(1)});
 }
@@ -21,36 +21,36 @@ QLayout* skyRow(Controls& controls, PageBinder& make)
 QWidget* packsFrame(Controls& controls, PageBinder& make)
 {
     auto& graphics = controls.chkGraphics;
-    return make.frame(u"GraphicFrames_5"_s, controls.GraphicFrames[5],
+    return make.frame(u"GraphicFrames_5"_s, controls.GraphicFrames[GraphicsFrame::Graphics],
                       {
-                          make.checkBox(u"chkGraphics"_s, graphics, 2),
-                          make.checkBox(u"chkMain"_s, controls.chkMain, 1),
-                          make.checkBox(u"chkGraphics"_s, graphics, 4),
+                          make.checkBox(u"chkGraphics"_s, graphics, Graphics::DetailTextures),
+                          make.checkBox(u"chkMain"_s, controls.chkMain, Main::HighResTextures),
+                          make.checkBox(u"chkGraphics"_s, graphics, Graphics::HighResPatches),
                           skyRow(controls, make),
-                          make.checkBox(u"chkGraphics"_s, graphics, 0),
-                          make.checkBox(u"chkGraphics"_s, graphics, 1),
+                          make.checkBox(u"chkGraphics"_s, graphics, Graphics::Spare0),
+                          make.checkBox(u"chkGraphics"_s, graphics, Graphics::Spare1),
                       });
 }
 
 QWidget* lightingFrame(Controls& controls, PageBinder& make)
 {
-    return make.frame(u"GraphicFrames_4"_s, controls.GraphicFrames[4],
+    return make.frame(u"GraphicFrames_4"_s, controls.GraphicFrames[GraphicsFrame::Lighting],
                       {
-                          make.checkBox(u"chkEffects"_s, controls.chkEffects, 0),
-                          make.checkBox(u"chkEffects"_s, controls.chkEffects, 2),
-                          make.checkBox(u"chkEffects"_s, controls.chkEffects, 1),
+                          make.checkBox(u"chkEffects"_s, controls.chkEffects, Effects::DynamicLighting),
+                          make.checkBox(u"chkEffects"_s, controls.chkEffects, Effects::Splashes),
+                          make.checkBox(u"chkEffects"_s, controls.chkEffects, Effects::Spare),
                       });
 }
 
 QWidget* corpseFrame(Controls& controls, PageBinder& make)
 {
-    return make.frame(u"GraphicFrames_3"_s, controls.GraphicFrames[3],
+    return make.frame(u"GraphicFrames_3"_s, controls.GraphicFrames[GraphicsFrame::CorpseFade],
                       {
-                          make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 3),
+                          make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, VYKOpts::ResurrectCorpses),
                           PageBinder::row({
                               make.spinner({u"Corpse fade"_s, u"Corpse"_s, controls.Corpse, u"butleft"_s,
                                             controls.butleft, u"butRight"_s, controls.butRight}),
-                              make.label(u"TexLabel"_s, controls.TexLabel, 1),
+                              make.label(u"TexLabel"_s, controls.TexLabel, Texts::CorpseFade),
                           }),
                       });
 }
@@ -63,12 +63,13 @@ QWidget* resolutionFrame(Controls& controls, PageBinder& make)
     screen->setAlignment(Qt::AlignTop);
     auto& labels = controls.ResLabel;
     QBoxLayout* texts = PageBinder::column({
-        make.label(u"ResLabel"_s, labels, 1),
-        make.label(u"ResLabel"_s, labels, 2),
-        make.label(u"ResLabel"_s, labels, 3),
-        make.label(u"ResLabel"_s, labels, 0),
+        make.label(u"ResLabel"_s, labels, ResolutionText::Resolution),
+        make.label(u"ResLabel"_s, labels, ResolutionText::Mode),
+        make.label(u"ResLabel"_s, labels, ResolutionText::RefreshRate),
+        make.label(u"ResLabel"_s, labels, ResolutionText::Hint),
     });
-    return make.frame(u"GraphicFrames_0"_s, controls.GraphicFrames[0], {PageBinder::row({screen, texts})});
+    return make.frame(u"GraphicFrames_0"_s, controls.GraphicFrames[GraphicsFrame::Resolution],
+                      {PageBinder::row({screen, texts})});
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/InstallationPaths.h"
 #include "platform/FileSystem.h"
+#include "state/InstallationPaths.h"
 
 // The packs that one cleanup removes.
 struct ModelCleanup

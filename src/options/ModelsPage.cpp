@@ -14,13 +14,13 @@ namespace {
 QWidget* packsFrame(Controls& controls, PageBinder& make)
 {
     auto& packs = controls.chkAltModels;
-    return make.frame(u"FrameModel_0"_s, controls.FrameModel[0],
+    return make.frame(u"FrameModel_0"_s, controls.FrameModel[ModelsFrame::Packs],
                       {
-                          make.checkBox(u"chkAltModels"_s, packs, 3),
-                          make.checkBox(u"chkAltModels"_s, packs, 1),
-                          make.checkBox(u"chkAltModels"_s, packs, 2),
-                          make.checkBox(u"chkAltModels"_s, packs, 0),
-                          make.checkBox(u"ChkModelOpts"_s, controls.ChkModelOpts, 1),
+                          make.checkBox(u"chkAltModels"_s, packs, AltModels::Replacements),
+                          make.checkBox(u"chkAltModels"_s, packs, AltModels::Kelspack),
+                          make.checkBox(u"chkAltModels"_s, packs, AltModels::KelspackAlternative),
+                          make.checkBox(u"chkAltModels"_s, packs, AltModels::PistolZombies),
+                          make.checkBox(u"ChkModelOpts"_s, controls.ChkModelOpts, ModelOpts::NoForcedModels),
                       });
 }
 
@@ -33,16 +33,17 @@ QLayout* smokeRow(Controls& controls, PageBinder& make)
 
 QWidget* effectsFrame(Controls& controls, PageBinder& make)
 {
-    return make.frame(u"FrameModel_1"_s, controls.FrameModel[1],
-                      {smokeRow(controls, make), make.checkBox(u"chkEffects"_s, controls.chkEffects, 3)});
+    return make.frame(
+        u"FrameModel_1"_s, controls.FrameModel[ModelsFrame::Effects],
+        {smokeRow(controls, make), make.checkBox(u"chkEffects"_s, controls.chkEffects, Effects::ExtraFx)});
 }
 
 QWidget* scalingFrame(Controls& controls, PageBinder& make)
 {
-    return make.frame(u"GraphicFrames_1"_s, controls.GraphicFrames[1],
+    return make.frame(u"GraphicFrames_1"_s, controls.GraphicFrames[GraphicsFrame::SkinScaling],
                       {PageBinder::row({
                           make.dropDown(u"cbScaler"_s, controls.cbScaler, u"Model skin scaling"_s),
-                          make.label(u"TexLabel"_s, controls.TexLabel, 0),
+                          make.label(u"TexLabel"_s, controls.TexLabel, Texts::SkinScaling),
                       })});
 }
 
@@ -51,13 +52,13 @@ QWidget* adviceBanner(Controls& controls, PageBinder& make)
 {
     auto& labels = controls.ModLabel;
     QBoxLayout* website = PageBinder::row({
-        make.label(u"ModLabel"_s, labels, 0),
-        make.label(u"ModLabel"_s, labels, 1),
+        make.label(u"ModLabel"_s, labels, Advice::NewPacks),
+        make.label(u"ModLabel"_s, labels, Advice::FromWebsite),
     });
-    website->addWidget(make.label(u"ModLabel"_s, labels, 3));
+    website->addWidget(make.label(u"ModLabel"_s, labels, Advice::Downloads));
     QBoxLayout* cleanup = PageBinder::row({
-        make.label(u"ModLabel"_s, labels, 2),
-        make.button(u"ButPurge_2"_s, controls.ButPurge[2], u"Clean up models"_s),
+        make.label(u"ModLabel"_s, labels, Advice::CleanUpFirst),
+        make.button(u"ButPurge_2"_s, controls.ButPurge[Purge::Models], u"Clean up models"_s),
     });
     return make.frame(u"ModFrame"_s, controls.ModFrame, {website, cleanup});
 }

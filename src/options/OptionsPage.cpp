@@ -15,13 +15,13 @@ namespace {
 QWidget* gameFrame(Controls& controls, PageBinder& make)
 {
     auto& options = controls.chkVYKOpts;
-    return make.frame(u"OptFrame_0"_s, controls.OptFrame[0],
+    return make.frame(u"OptFrame_0"_s, controls.OptFrame[OptFrames::Game],
                       {
-                          make.checkBox(u"chkVYKOpts"_s, options, 5),
-                          make.checkBox(u"chkVYKOpts"_s, options, 6),
-                          make.checkBox(u"chkVYKOpts"_s, options, 7),
-                          make.checkBox(u"chkVYKOpts"_s, options, 8),
-                          make.checkBox(u"chkVYKOpts"_s, options, 4),
+                          make.checkBox(u"chkVYKOpts"_s, options, VYKOpts::FastMonsters),
+                          make.checkBox(u"chkVYKOpts"_s, options, VYKOpts::NoSameTypeInfighting),
+                          make.checkBox(u"chkVYKOpts"_s, options, VYKOpts::NoLostSoulInfighting),
+                          make.checkBox(u"chkVYKOpts"_s, options, VYKOpts::MonsterRespawn),
+                          make.checkBox(u"chkVYKOpts"_s, options, VYKOpts::Spare),
                           make.checkBox(u"chkTesting"_s, controls.chkTesting),
                       });
 }
@@ -32,57 +32,59 @@ QWidget* launcherFrame(Controls& controls, PageBinder& make)
     auto& preferences = controls.chkLaunchPrefs;
     auto* folder = new QLabel;
     folder->setPixmap(folder->style()->standardIcon(QStyle::SP_DirLinkIcon).pixmap(iconSize));
-    return make.frame(u"OptFrame_1"_s, controls.OptFrame[1],
-                      {
-                          make.checkBox(u"chkLaunchPrefs"_s, preferences, 0),
-                          make.checkBox(u"chkLaunchPrefs"_s, preferences, 1),
-                          make.checkBox(u"chkLaunchPrefs"_s, preferences, 4),
-                          make.checkBox(u"chkLaunchPrefs"_s, preferences, 5),
-                          make.checkBox(u"chkLaunchPrefs"_s, preferences, 2),
-                          make.checkBox(u"chkLaunchPrefs"_s, preferences, 3),
-                          PageBinder::row({make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 2), folder}),
-                      });
+    return make.frame(
+        u"OptFrame_1"_s, controls.OptFrame[OptFrames::Launcher],
+        {
+            make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::RememberLastMap),
+            make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::RememberLastSavegame),
+            make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::WadFilesOnly),
+            make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::TipOfTheDay),
+            make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::ShortcutCreation),
+            make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::DisableToolTips),
+            PageBinder::row(
+                {make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, VYKOpts::AllowHiResRelocation), folder}),
+        });
 }
 
 QWidget* launchModeFrame(Controls& controls, PageBinder& make)
 {
     const auto modes = make.optionButtons(u"ExitOption"_s, controls.ExitOption);
-    return make.frame(u"OptFrame_2"_s, controls.OptFrame[2],
+    return make.frame(u"OptFrame_2"_s, controls.OptFrame[OptFrames::LaunchMode],
                       {PageBinder::row({modes.at(0), modes.at(1), modes.at(2)})});
 }
 
 // A button that deletes, and the label that says what.
-QLayout* purge(Controls& controls, PageBinder& make, int button, int label)
+QLayout* purge(Controls& controls, PageBinder& make, Purge button, Deletion label)
 {
-    Control& what = controls.DelLabel[static_cast<size_t>(label)];
-    QLabel* text = make.label(NameOf(u"DelLabel"_s, label), what);
-    QBoxLayout* row = PageBinder::row({text});
-    row->addWidget(make.button(NameOf(u"ButPurge"_s, button), controls.ButPurge[static_cast<size_t>(button)],
-                               what.caption));
+    QBoxLayout* row = PageBinder::row({make.label(u"DelLabel"_s, controls.DelLabel, label)});
+    row->addWidget(make.button(NameOf(u"ButPurge"_s, static_cast<int>(button)), controls.ButPurge[button],
+                               controls.DelLabel[label].caption));
     return row;
 }
 
 QWidget* controlsFrame(Controls& controls, PageBinder& make, QWidget* hotSpot)
 {
-    return make.frame(u"OptFrame_3"_s, controls.OptFrame[3],
-                      {
-                          make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 0),
-                          make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, 1),
-                          make.checkBox(u"chkMain"_s, controls.chkMain, 7),
-                          PageBinder::row({
-                              make.checkBox(u"ChkGL"_s, controls.ChkGL),
-                              make.label(u"ExpLabel"_s, controls.ExpLabel),
-                              make.spinner({u"Explosion"_s, u"Timeout"_s, controls.Timeout, u"butLeft2"_s,
-                                            controls.butLeft2, u"butRight2"_s, controls.butRight2}),
-                          }),
-                          PageBinder::row({
-                              make.checkBox(u"TexPathLabel"_s, controls.TexPathLabel),
-                              make.toolButton(controls.AuxButton, 9, u"Browse for the hi-res location"_s),
-                          }),
-                          purge(controls, make, 1, 0),
-                          purge(controls, make, 0, 1),
-                          hotSpot,
-                      });
+    return make.frame(
+        u"OptFrame_3"_s, controls.OptFrame[OptFrames::Controls],
+        {
+            make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, VYKOpts::DisableMouse),
+            make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, VYKOpts::DisableJoystick),
+            make.checkBox(u"chkMain"_s, controls.chkMain, Main::Verbose),
+            PageBinder::row({
+                make.checkBox(u"ChkGL"_s, controls.ChkGL),
+                make.label(u"ExpLabel"_s, controls.ExpLabel),
+                make.spinner({u"Explosion"_s, u"Timeout"_s, controls.Timeout, u"butLeft2"_s,
+                              controls.butLeft2, u"butRight2"_s, controls.butRight2}),
+            }),
+            PageBinder::row({
+                make.checkBox(u"TexPathLabel"_s, controls.TexPathLabel),
+                make.toolButton(u"AuxButton_9"_s, controls.AuxButton[Tool::TextureFolder],
+                                static_cast<int>(Tool::TextureFolder), u"Browse for the hi-res location"_s),
+            }),
+            purge(controls, make, Purge::Nodes, Deletion::Nodes),
+            purge(controls, make, Purge::SaveGames, Deletion::SaveGames),
+            hotSpot,
+        });
 }
 
 } // namespace

@@ -1,26 +1,16 @@
 #pragma once
 
-#include "app/InstallationPaths.h"
-#include "platform/FileSystem.h"
+#include "state/Launcher.h"
 
-// Which of the optional packs are installed, as last looked for.
+// Which of the optional packs are installed: facts that are read at load, at every visit of a tab, and before
+// a launch.
+void ReadPacks(Launcher& launcher);
 
-struct ModelPacks
-{
-    bool ModelPacksMissing = true;     // the base pack is not there
-    bool ModelPack2Installed = false;  // the Tovrens pack
-    bool KelspackInstalled = false;    // the optional weapons
-    bool CoreEffectsInstalled = false; // without them the game runs in FX mode, whatever its box shows
-};
+// Its three parts: the packs of models, of graphics, and of sounds.
+void DetectModelPacks(Launcher& launcher);
+void CheckGraphicsPacks(Launcher& launcher);
+void CheckSoundPack(Launcher& launcher);
 
-// The packs of graphics.
-struct ResourcePacks
-{
-    bool patches = false;
-    bool textures = false;
-    bool detailTextures = false;
-    bool skyboxes = false;
-};
-
-// Looks for the model packs' marker files.
-ModelPacks FindModelPacks(const FileSystem& files, const InstallationPaths& paths);
+// Whether exactly one of the two definition files of HUD weapons carries the current header is false; a
+// missing file is no disagreement.
+bool CheckHudWeaponsDefs(const FileSystem& files, const InstallationPaths& paths);

@@ -6,7 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr size_t purgeButton = 1; // ButPurge
 constexpr const char16_t* nodeFolders[] = {u"gwa", u"VYKAnFiles"};
 
 void purgeClicked(Launcher& launcher)
@@ -27,7 +26,7 @@ void purgeClicked(Launcher& launcher)
 
 void ConnectNodePurge(Launcher& launcher)
 {
-    launcher.controls.ButPurge[purgeButton].clicked = [&launcher] { purgeClicked(launcher); };
+    launcher.controls.ButPurge[Purge::Nodes].clicked = [&launcher] { purgeClicked(launcher); };
 }
 
 QStringList PurgeNodes(FileSystem& files, const InstallationPaths& paths)

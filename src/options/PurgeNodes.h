@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The button that deletes all prior built nodes.
 void ConnectNodePurge(Launcher& launcher);

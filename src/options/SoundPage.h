@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Controls.h"
+#include "state/Controls.h"
 #include "ui/ControlBinder.h"
 
 #include <QWidget>

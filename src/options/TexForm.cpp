@@ -18,8 +18,6 @@ TexForm::TexForm(Launcher& launcher, QWidget* parent)
     m_path->setObjectName(u"HiResText"_s);
     m_path->setAccessibleName(u"Location of Parent Directory"_s);
     m_path->setMinimumWidth(420);
-    connect(m_path, &QLineEdit::textEdited, this,
-            [this](const QString& text) { m_launcher.controls.HiResText.text = text; });
     auto* button = new QPushButton(u"Browse"_s);
     button->setObjectName(u"TexButton"_s);
     button->setAutoDefault(false);
@@ -51,23 +49,16 @@ TexForm::TexForm(Launcher& launcher, QWidget* parent)
                                    "you don't need to worry about this as the default\r\n"
                                    "paths used by the pack installation are adequate."_s);
     }
-    ShowTexturePath(launcher);
-    write();
+    m_path->setText(ShowTexturePath(launcher));
 }
 
 void TexForm::done(int result)
 {
-    KeepTexturePath(m_launcher);
+    KeepTexturePath(m_launcher, m_path->text());
     QDialog::done(result);
 }
 
 void TexForm::browse()
 {
-    SetTexPath(m_launcher);
-    write();
-}
-
-void TexForm::write()
-{
-    m_path->setText(m_launcher.controls.HiResText.text);
+    m_path->setText(SetTexPath(m_launcher, m_path->text()));
 }

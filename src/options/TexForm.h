@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 #include "ui/ToolTipView.h"
 
 #include <QDialog>
@@ -20,7 +20,6 @@ public:
 
 private:
     void browse();
-    void write();
 
     Launcher& m_launcher;
     QLineEdit* m_path;

@@ -1,6 +1,7 @@
 #include "options/TexturePath.h"
 
-#include "options/PresenceChecks.h"
+#include "options/GraphicsTab.h"
+#include "options/PackFacts.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 #include "ui/FolderQuestion.h"
@@ -8,10 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t dialogButton = 9;    // AuxButton
-constexpr size_t highResTextures = 1; // chkMain
-constexpr size_t highResPatches = 4;  // chkGraphics
 
 // An empty path is not stored.
 void store(Launcher& launcher, const QString& path)
@@ -32,47 +29,33 @@ void store(Launcher& launcher, const QString& path)
 
 void ConnectTexturePath(Launcher& launcher)
 {
-    launcher.controls.AuxButton[dialogButton].clicked = [&launcher] { launcher.window.showTexForm(); };
+    launcher.controls.AuxButton[Tool::TextureFolder].clicked = [&launcher] { launcher.window.showTexForm(); };
 }
 
-void ShowTexturePath(Launcher& launcher)
+QString ShowTexturePath(Launcher& launcher)
 {
-    if (TexturePathValid(launcher)) {
-        launcher.controls.HiResText.text = NativePath(launcher.settings.TexturePath);
-        return;
-    }
-    launcher.controls.HiResText.text = NoTextures;
-    store(launcher, {});
+    return KeepTexturePath(launcher, NativePath(launcher.settings.TexturePath));
 }
 
-void SetTexPath(Launcher& launcher)
+QString SetTexPath(Launcher& launcher, const QString& shown)
 {
-    const QString shown = NativePath(launcher.settings.TexturePath);
+    const QString current = launcher.facts.resources.textures;
     const QString chosen = launcher.prompts.chooseFolder(
-        FolderQuestion(shown, u"Select the new location of your high resolution textures ..."_s),
-        launcher.settings.TexturePath);
-    if (!chosen.isEmpty())
-        launcher.controls.HiResText.text = NativePath(chosen);
-    KeepTexturePath(launcher);
+        FolderQuestion(NativePath(current),
+                       u"Select the new location of your high resolution textures ..."_s),
+        current);
+    return KeepTexturePath(launcher, chosen.isEmpty() ? shown : chosen);
 }
 
-void KeepTexturePath(Launcher& launcher)
+QString KeepTexturePath(Launcher& launcher, const QString& shown)
 {
-    Controls& controls = launcher.controls;
-    Settings& settings = launcher.settings;
-    settings.TexturePath = WithSlashes(controls.HiResText.text.trimmed());
-    FindResourcePacks(launcher); // may take the installation's own folder instead
-    if (!launcher.resources.textures) {
-        controls.HiResText.text = NoTextures;
-        controls.chkMain[highResTextures].enabled = controls.chkGraphics[highResPatches].enabled = false;
-        store(launcher, {});
-        return;
-    }
-    controls.HiResText.text = NativePath(settings.TexturePath);
-    if (settings.HighResTextures)
-        controls.chkMain[highResTextures].enabled = true;
-    if (settings.HighResPatches && launcher.resources.patches)
-        controls.chkGraphics[highResPatches].enabled = true;
-    const bool isOwn = SameName(settings.TexturePath, launcher.paths.RootPath + u"/Data/Textures"_s);
-    store(launcher, isOwn ? QString() : settings.TexturePath);
+    QString& path = launcher.settings.TexturePath;
+    const QString before = path;
+    path = shown == NoTextures ? QString() : WithSlashes(shown.trimmed());
+    CheckGraphicsPacks(launcher);
+    const ResourcePacks& packs = launcher.facts.resources;
+    path = packs.texturesAreOwn ? QString() : packs.textures;
+    if (path != before || path.isEmpty())
+        store(launcher, path);
+    return packs.textures.isEmpty() ? NoTextures : NativePath(packs.textures);
 }

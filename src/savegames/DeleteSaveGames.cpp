@@ -1,13 +1,11 @@
 #include "savegames/DeleteSaveGames.h"
 
-#include "catalogue/GameSelection.h"
 #include "savegames/SaveGames.h"
+#include "start/Start.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t purgeButton = 0; // ButPurge
 
 void deleteAll(Launcher& launcher)
 {
@@ -39,25 +37,24 @@ void purgeClicked(Launcher& launcher)
 void ConnectDeleteSaveGames(Launcher& launcher)
 {
     launcher.controls.mcDelSaveGame.clicked = [&launcher] { DeleteSaveGame(launcher); };
-    launcher.controls.ButPurge[purgeButton].clicked = [&launcher] { purgeClicked(launcher); };
+    launcher.controls.ButPurge[Purge::SaveGames].clicked = [&launcher] { purgeClicked(launcher); };
 }
 
 void DeleteSaveGame(Launcher& launcher)
 {
-    Controls& controls = launcher.controls;
-    const QString slot = controls.SaveGameList.selectedText().left(1);
+    const QString slot = launcher.chosenSlot();
     if (slot.isEmpty() || launcher.prompts.MsgboxPos(
                               u"Are you certain you wish to delete this savegame?     "_s,
                               Msg::YesNo + Msg::Question, u" Delete selected savegame"_s) != Msg::ResultYes)
         return;
     try {
-        launcher.files.remove(launcher.selection.SaveGameFolder + u"/KeldraxSav"_s + slot + u".vyksg"_s);
+        launcher.files.remove(SaveGameFolder(launcher) + u"/KeldraxSav"_s + slot + u".vyksg"_s);
     } catch (const FileError&) {
         return;
     }
-    SelectGameAgain(launcher);
-    if (!controls.MapList.entry(0).isEmpty() && launcher.launch.StartChoice != StartChoice::NewGame)
-        controls.MapList.select(0);
+    ListSaveGames(launcher);
+    launcher.selection.SaveSlot.clear();
+    launcher.selection.map = launcher.facts.file.maps.value(0);
 }
 
 void PurgeSaveGames(Launcher& launcher)

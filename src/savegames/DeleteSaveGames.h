@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // Deleting savegames: the chosen one by its task menu, all of them by the purge button.
 void ConnectDeleteSaveGames(Launcher& launcher);

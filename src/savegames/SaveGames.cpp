@@ -1,31 +1,19 @@
 #include "savegames/SaveGames.h"
 
-#include "catalogue/GameRecords.h"
-#include "options/Skills.h"
+#include "records/GameRecords.h"
+#include "start/Start.h"
 #include "wad/ToolBridge.h"
 
 namespace {
 
+// A savegame takes the place of a map.
 void saveGameClicked(Launcher& launcher)
 {
-    launcher.launch.SaveSlot = launcher.controls.SaveGameList.selectedText().left(1);
-    launcher.launch.StartChoice = StartChoice::ChosenSavegame;
-    launcher.controls.MapList.deselect();
-}
-
-void saveGamePicked(Launcher& launcher)
-{
+    launcher.selection.SaveSlot = launcher.controls.SaveGameList.selectedName();
+    launcher.selection.map.clear();
+    RestoreRememberedSkill(launcher.settings);
     if (launcher.settings.RememberLastSavegame)
-        SaveLastSavegame(launcher);
-    RestoreRememberedSkill(launcher);
-}
-
-int entryOfSlot(const ListBox& list, const QString& slot)
-{
-    for (int i = 0; i < list.count(); ++i)
-        if (!slot.isEmpty() && list.entry(i).startsWith(slot))
-            return i;
-    return -1;
+        GameRecords(launcher.files, launcher.paths, launcher).SaveLastSavegame();
 }
 
 } // namespace
@@ -33,26 +21,30 @@ int entryOfSlot(const ListBox& list, const QString& slot)
 void ConnectSaveGames(Launcher& launcher)
 {
     launcher.controls.SaveGameList.clicked = [&launcher] { saveGameClicked(launcher); };
-    launcher.controls.SaveGameList.chosen = [&launcher] { saveGamePicked(launcher); };
+}
+
+QString SaveGameFolder(const Launcher& launcher)
+{
+    const QString folder = launcher.saveGameFolder();
+    return folder.isEmpty() ? QString() : launcher.paths.RootPath + u'/' + folder;
 }
 
 bool ListSaveGames(Launcher& launcher)
 {
-    launcher.controls.SaveGameList.clear();
-    return !launcher.files.folderExists(launcher.selection.SaveGameFolder) ||
-           ListSavegameHeaders(launcher, launcher.selection.SaveGameFolder);
+    launcher.facts.file.savegames.clear();
+    const QString folder = SaveGameFolder(launcher);
+    if (!launcher.files.folderExists(folder))
+        return true;
+    const auto savegames = ListSavegameHeaders(launcher, folder);
+    launcher.facts.file.savegames = savegames.value_or(QList<SaveGame>());
+    return savegames.has_value();
 }
 
 bool RefreshSaveGames(Launcher& launcher)
 {
-    ListBox& list = launcher.controls.SaveGameList;
-    const bool wasChosen = list.selected() >= 0;
     const bool listed = ListSaveGames(launcher);
-    if (!wasChosen)
-        return listed;
-    list.startAs(entryOfSlot(list, launcher.launch.SaveSlot));
-    if (list.selected() < 0) { // it is gone: start from a map again
-        launcher.launch.SaveSlot.clear();
+    if (!launcher.selection.SaveSlot.isEmpty() && launcher.chosenSlot().isEmpty()) {
+        launcher.selection.SaveSlot.clear();
         SetMapFocus(launcher);
     }
     return listed;
@@ -60,8 +52,12 @@ bool RefreshSaveGames(Launcher& launcher)
 
 void RestoreLastSavegame(Launcher& launcher)
 {
-    if (!launcher.settings.RememberLastSavegame || launcher.launch.StartChoice == StartChoice::NewGame)
+    if (!launcher.settings.RememberLastSavegame || launcher.settings.Skill == 0)
         return;
-    ListBox& list = launcher.controls.SaveGameList;
-    list.select(entryOfSlot(list, LastSavegame(launcher)));
+    const QString map = std::exchange(launcher.selection.map, {});
+    launcher.selection.SaveSlot = GameRecords(launcher.files, launcher.paths, launcher).LastSavegame();
+    if (launcher.chosenSlot().isEmpty()) {
+        launcher.selection.SaveSlot.clear();
+        launcher.selection.map = map;
+    }
 }

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
-// What choosing a savegame does: it replaces a chosen map, and one that the player picks is remembered
-// and brings the remembered skill back.
+// The savegames of what is chosen.
 void ConnectSaveGames(Launcher& launcher);
 
-// Fills SaveGameList from the selected game's savegame folder.
-// False when the game-file tool could not be started.
+// The folder of the savegames of what is chosen; empty when nothing is.
+QString SaveGameFolder(const Launcher& launcher);
+
+// Reads which there are. False when the game-file tool could not be started.
 bool ListSaveGames(Launcher& launcher);
 
-// Lists the savegames again after a game, keeping the chosen one chosen. False when the game-file tool
-// could not be started.
+// The same after a game or a deletion: a chosen one that is gone gives way to a map.
 bool RefreshSaveGames(Launcher& launcher);
 
 // Chooses the remembered savegame, when savegames are remembered and a game is not to start from new.

@@ -1,9 +1,9 @@
 #include "shortcuts/MakeShortcut.h"
 
-#include "launch/LaunchCommercialGame.h"
-#include "launch/LaunchInstalledGame.h"
+#include "launch/LaunchButton.h"
 #include "launch/LaunchSteps.h"
 #include "platform/Shortcuts.h"
+#include "shell/DeleteShortcuts.h"
 #include "shortcuts/ShortcutNames.h"
 
 #include <stdexcept>
@@ -11,8 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr size_t toolbarButton = 2; // AuxButton
 
 // A picture that the installation brings; without it, the name under which a menu entry has it.
 QString launcherIcon(const Launcher& launcher)
@@ -47,33 +45,25 @@ bool CreateLink(Launcher& launcher, const QString& folder, const QString& fileNa
     }
 }
 
-// The arguments with which a launch would start the engine; nothing when it would not.
-std::optional<QString> launchArguments(Launcher& launcher)
-{
-    launcher.launch.ShortcutMode = true;
-    const LaunchResult result =
-        launcher.selection.DoomGameSelected ? LaunchCommercialGame(launcher) : LaunchInstalledGame(launcher);
-    return result == LaunchResult::HandedOver ? std::optional(launcher.launch.ShortcutArguments)
-                                              : std::nullopt;
-}
-
 } // namespace
 
 void ConnectShortcuts(Launcher& launcher)
 {
-    launcher.controls.AuxButton[toolbarButton].clicked = [&launcher] { MakeShortcut(launcher); };
+    launcher.controls.AuxButton[Tool::Shortcut].clicked = [&launcher] { MakeShortcut(launcher); };
 }
 
 void MakeShortcut(Launcher& launcher)
 {
+    if (launcher.gameIs(GameKind::Archive) || launcher.selection.tab != Tab::Games)
+        return;
     const auto choice = launcher.prompts.askShortcut(
         {.name = GetShortcutName(launcher), .toolTips = !launcher.settings.DisableToolTips});
-    const QString name = ShortcutNameOf(launcher);
-    if (!choice || name.isEmpty() || launcher.selection.ArchiveSelected ||
-        !launcher.controls.TabFrame[0].visible)
+    if (!choice)
         return;
-    if (const auto arguments = launchArguments(launcher))
-        CreateShortcuts(launcher, *choice, name, *arguments);
+    ReadBeforeLaunch(launcher);
+    const LaunchPlan plan = PlanLaunch(launcher);
+    if (ShowMessages(launcher, plan))
+        CreateShortcuts(launcher, *choice, ShortcutNameOf(launcher), plan.commandLine.mid(Engine.size() + 1));
 }
 
 void CreateShortcuts(Launcher& launcher, const ShortcutChoice& choice, const QString& name,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
 // The shortcut tool: its button of the toolbar.
 void ConnectShortcuts(Launcher& launcher);

@@ -44,44 +44,33 @@ QString labelOfDoomGame(const QString& title)
 
 } // namespace
 
-QString ShortcutNameOf(const Launcher& launcher)
+QString ShortcutNameOf(const Truth& truth)
 {
-    const Selection& selection = launcher.selection;
     // Not the text that the list shows: capitals may lose letters that the former name is found by.
-    const QString name = launcher.controls.PwadList.selectedName();
-    if (selection.GwadSelected)
-        return name + u" - "_s + BaseNameOf(selection.SelectedGameFile);
-    if (selection.DoomGameSelected)
+    const QString& name = truth.facts.game.name;
+    if (truth.gameIs(GameKind::Gwad))
+        return name + u" - "_s + BaseNameOf(truth.chosenFile());
+    if (truth.gameIs(GameKind::Doom))
         for (const auto& row : shortNames)
             if (SameName(name, QString::fromUtf16(row.title)))
                 return QString::fromUtf16(row.name);
     return name;
 }
 
-QString GetShortcutName(const Launcher& launcher)
+QString GetShortcutName(const Truth& truth)
 {
     constexpr int longestName = 30;
     constexpr int keptOfLonger = 27;
-    const Selection& selection = launcher.selection;
-    if (selection.DoomGameSelected)
-        return labelOfDoomGame(launcher.settings.SelectedDoomGame);
-    if (selection.PwadSelected)
-        return BaseNameOf(selection.SelectedGameFile).toUpper();
-    const QString game = selection.GwadSelected ? selection.SelectedGwadGame : QString();
+    const QString& game = truth.facts.game.name;
+    if (truth.gameIs(GameKind::Doom))
+        return labelOfDoomGame(game);
+    if (truth.gameIs(GameKind::Pwad))
+        return BaseNameOf(truth.chosenFile()).toUpper();
     return game.size() > longestName ? game.first(keptOfLonger) + u" ..."_s : game;
 }
 
-QString MapSuffixOf(const Launcher& launcher)
+QString MapSuffixOf(const Truth& truth)
 {
-    const QString map = launcher.controls.MapList.selectedText();
-    return map.isEmpty() || launcher.controls.SkillsLevel[1].selected() == 0 ? QString() : u" - "_s + map;
-}
-
-QString ShortcutFileName(const QString& name, const QString& mapSuffix)
-{
-    constexpr int mapBeginning = 4; // " - M"
-    const QString fileName = name.isEmpty() ? QString() : name.at(0).toUpper() + name.sliced(1).toLower();
-    if (!mapSuffix.startsWith(u" - M"_s, Qt::CaseInsensitive))
-        return fileName + mapSuffix;
-    return fileName + mapSuffix.first(mapBeginning).toUpper() + mapSuffix.sliced(mapBeginning).toLower();
+    const QString map = truth.chosenMap();
+    return map.isEmpty() ? QString() : u" - "_s + map;
 }

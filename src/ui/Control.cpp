@@ -52,8 +52,9 @@ void ListBox::add(const ListEntry& entry)
 {
     qsizetype position = m_entries.size();
     if (m_order == Order::Sorted)
-        position = std::ranges::upper_bound(std::as_const(m_entries), entry.text, comesBefore) -
-                   m_entries.cbegin();
+        position =
+            std::ranges::upper_bound(std::as_const(m_entries), entry.text, comesBefore) - m_entries.cbegin();
+    m_shown.clear();
     m_entries.insert(position, entry.text);
     m_names.insert(position, entry.name);
     if (m_selected >= position)
@@ -79,19 +80,24 @@ void ListBox::clear()
 {
     m_entries.clear();
     m_names.clear();
+    m_shown.clear();
     m_selected = -1;
 }
 
-void ListBox::remove(int index)
+void ListBox::show(const QList<ListEntry>& entries)
 {
-    if (index < 0 || index >= count())
+    if (entries == m_shown)
         return;
-    m_entries.removeAt(index);
-    m_names.removeAt(index);
-    if (m_selected == index)
-        m_selected = -1;
-    else if (m_selected > index)
-        --m_selected;
+    setEntries(entries);
+    m_shown = entries;
+}
+
+void ListBox::show(const QStringList& entries)
+{
+    QList<ListEntry> same;
+    for (const QString& entry : entries)
+        same << ListEntry{entry, entry};
+    show(same);
 }
 
 int ListBox::find(const QString& name) const
@@ -119,16 +125,10 @@ void ListBox::click(int index)
     m_selected = index;
     if (clicked)
         clicked();
-    if (chosen)
-        chosen();
 }
 
-void ListBox::setCurrentText(const QString& value)
+void ListBox::showText(const QString& value)
 {
-    const int index = find(value);
-    text = index >= 0 ? QString() : value;
-    if (index >= 0)
-        select(index);
-    else
-        deselect();
+    m_selected = find(value);
+    text = m_selected >= 0 ? QString() : value;
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <array>
 #include <functional>
 #include <vector>
 
@@ -35,6 +36,7 @@ struct TextBox : Control
     // The whole number that the text begins with, within 16 bits; 0 when it begins with none.
     int number() const;
 
+    QString placeholder;         // stands in an empty box
     std::function<void()> typed; // the player changed the text
 };
 
@@ -64,8 +66,7 @@ public:
     // The value that the window is built with: runs nothing.
     void startAs(int value) { m_value = value; }
 
-    std::function<void()> clicked; // the value changed, by the user or by a rule
-    std::function<void()> chosen;  // the user clicked the box, after `clicked`
+    std::function<void()> clicked; // the value changed
 
 private:
     int m_value = 0;
@@ -75,13 +76,10 @@ private:
 class OptionButtons
 {
 public:
-    explicit OptionButtons(int count, int selected = 0)
-        : m_buttons(static_cast<size_t>(count)), m_selected(selected)
-    {
-    }
+    explicit OptionButtons(int count) : m_buttons(static_cast<size_t>(count)) {}
 
-    Control& operator[](int index) { return m_buttons.at(static_cast<size_t>(index)); }
-    const Control& operator[](int index) const { return m_buttons.at(static_cast<size_t>(index)); }
+    Control& button(int index) { return m_buttons.at(static_cast<size_t>(index)); }
+    const Control& button(int index) const { return m_buttons.at(static_cast<size_t>(index)); }
     int count() const { return static_cast<int>(m_buttons.size()); }
     int selected() const { return m_selected; }
 
@@ -99,7 +97,42 @@ public:
 
 private:
     std::vector<Control> m_buttons;
-    int m_selected;
+    int m_selected = 0;
+};
+
+// Controls of one kind, each found by its name: an enumeration whose last one is Count.
+template <class Element, class Name>
+class ControlArray
+{
+public:
+    static constexpr int Size = static_cast<int>(Name::Count);
+
+    Element& operator[](Name name) { return m_elements[static_cast<size_t>(name)]; }
+    const Element& operator[](Name name) const { return m_elements[static_cast<size_t>(name)]; }
+
+    auto begin() { return m_elements.begin(); }
+    auto end() { return m_elements.end(); }
+    auto begin() const { return m_elements.begin(); }
+    auto end() const { return m_elements.end(); }
+
+private:
+    std::array<Element, static_cast<size_t>(Size)> m_elements;
+};
+
+// Option buttons that are found by their names.
+template <class Name>
+class OptionButtonArray : public OptionButtons
+{
+public:
+    static constexpr int Size = static_cast<int>(Name::Count);
+
+    OptionButtonArray() : OptionButtons(Size) {}
+
+    Control& operator[](Name name) { return button(static_cast<int>(name)); }
+    const Control& operator[](Name name) const { return button(static_cast<int>(name)); }
+    bool isSelected(Name name) const { return selected() == static_cast<int>(name); }
+    void click(Name name) { OptionButtons::click(static_cast<int>(name)); }
+    using OptionButtons::click;
 };
 
 // What a list shows, and the name on disk that it stands for: the two differ where a list shows capitals.
@@ -107,6 +140,7 @@ struct ListEntry
 {
     QString text;
     QString name;
+    bool operator==(const ListEntry&) const = default;
 };
 
 // A list box or a drop-down list, with at most one selected entry.
@@ -130,7 +164,10 @@ public:
     void add(const ListEntry& entry);
     void setEntries(QList<ListEntry> entries); // also clears the selection; runs nothing
     void clear();                              // also the selection; runs nothing
-    void remove(int index);                    // runs nothing; nothing is selected when it was
+
+    // The same, and nothing at all where these are the entries already.
+    void show(const QList<ListEntry>& entries);
+    void show(const QStringList& entries);
 
     // The first entry whose name, else whose text, equals `name` without regard to case; -1 when there is
     // none.
@@ -155,12 +192,11 @@ public:
     // A drop-down list's text: the selected entry's, else the text set last.
     QString currentText() const { return m_selected >= 0 ? selectedText() : text; }
 
-    // Selects the entry equal to `value`, or shows it as a text that no entry has.
-    void setCurrentText(const QString& value);
+    // Selects the entry equal to `value`, or shows it as a text that no entry has; runs nothing.
+    void showText(const QString& value);
 
-    std::function<void()> clicked;       // the selection changed, by the user or by a rule
-    std::function<void()> chosen;        // the user clicked an entry, after `clicked`
-    std::function<void()> doubleClicked; // the user double-clicked the selected entry, after `chosen`
+    std::function<void()> clicked;       // an entry was chosen
+    std::function<void()> doubleClicked; // the user double-clicked the selected entry, after `clicked`
 
     // The task menu of the selected entry as it is now; null when it has none.
     std::function<const Menu*()> taskMenu;
@@ -168,6 +204,7 @@ public:
 private:
     QStringList m_entries;
     QStringList m_names;
+    QList<ListEntry> m_shown; // what was to be shown last
     QString m_filter;
     int m_selected = -1;
     Order m_order;

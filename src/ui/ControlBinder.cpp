@@ -139,13 +139,8 @@ void ControlBinder::bind(const QString& objectName, CheckBox& control, QAbstract
         if (box->isChecked() != control.ticked())
             box->setChecked(control.ticked());
     });
-    connect(box, &QAbstractButton::clicked, this, [this, &control](bool on) {
-        run([&control, on] {
-            control.setTicked(on);
-            if (control.chosen)
-                control.chosen();
-        });
-    });
+    connect(box, &QAbstractButton::clicked, this,
+            [this, &control](bool on) { run([&control, on] { control.setTicked(on); }); });
 }
 
 void ControlBinder::bind(const QString& objectName, OptionButtons& control,
@@ -155,8 +150,8 @@ void ControlBinder::bind(const QString& objectName, OptionButtons& control,
         QAbstractButton* button = buttons.at(i);
         name(button, NameOf(objectName, i));
         m_writers.emplace_back([this, &control, i, button] {
-            writeShared(control[i], button);
-            writeCaption(control[i], button);
+            writeShared(control.button(i), button);
+            writeCaption(control.button(i), button);
             if (button->isChecked() != (control.selected() == i))
                 button->setChecked(control.selected() == i);
         });
@@ -176,8 +171,8 @@ void ControlBinder::bind(const QString& objectName, TextBox& control, QLineEdit*
             if (edit->isReadOnly())
                 edit->setCursorPosition(0); // a text that is too long shows its start
         }
-        if (edit->isReadOnly())
-            edit->setPlaceholderText(QString(control.toolTip).replace(u"\r\n"_s, u" "_s));
+        if (edit->isReadOnly() && edit->placeholderText() != control.placeholder)
+            edit->setPlaceholderText(control.placeholder);
     });
     connect(edit, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
         run([&control, text] {

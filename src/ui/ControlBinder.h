@@ -35,7 +35,6 @@ public:
     void bind(const QString& name, Button& control, QAbstractButton* button);
     void bind(const QString& name, CheckBox& control, QAbstractButton* box); // a checkable one
     void bind(const QString& name, OptionButtons& control, const QList<QAbstractButton*>& buttons);
-    // An empty text that cannot be edited shows its tip in its place, which says why it is empty.
     void bind(const QString& name, TextBox& control, QLineEdit* edit);
     void bind(const QString& name, ListBox& control, ListView* list);
     void bind(const QString& name, ListBox& control, QComboBox* list);

@@ -141,7 +141,8 @@ void ListView::askMenuByKey()
 void ListView::initViewItemOption(QStyleOptionViewItem* option) const
 {
     QListView::initViewItemOption(option);
-    // What is chosen stays in sight while the keyboard is elsewhere: some systems pale it into the background.
+    // What is chosen stays in sight while the keyboard is elsewhere: some systems pale it into the
+    // background.
     option->state |= QStyle::State_Active;
 }
 

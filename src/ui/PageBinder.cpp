@@ -62,12 +62,12 @@ QAbstractButton* PageBinder::button(const QString& name, Button& control, const 
     return button;
 }
 
-QAbstractButton* PageBinder::toolButton(std::array<Button, 10>& tools, int tool,
+QAbstractButton* PageBinder::toolButton(const QString& name, Button& control, int picture,
                                         const QString& accessibleName)
 {
-    auto* button = new ToolButtonView(tool);
+    auto* button = new ToolButtonView(picture);
     button->setAccessibleName(accessibleName);
-    m_binder.bind(NameOf(u"AuxButton"_s, tool), tools.at(static_cast<size_t>(tool)), button);
+    m_binder.bind(name, control, button);
     return button;
 }
 

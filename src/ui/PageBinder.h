@@ -4,8 +4,6 @@
 
 #include <QBoxLayout>
 
-#include <array>
-
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
@@ -35,22 +33,23 @@ public:
     QAbstractButton* pushBox(const QString& name, CheckBox& control, const QString& accessibleName);
     QLabel* label(const QString& name, Control& control);
     QAbstractButton* button(const QString& name, Button& control, const QString& accessibleName = {});
-    QAbstractButton* toolButton(std::array<Button, 10>& tools, int tool, const QString& accessibleName = {});
+    QAbstractButton* toolButton(const QString& name, Button& control, int picture,
+                                const QString& accessibleName = {});
     QComboBox* dropDown(const QString& name, ListBox& control, const QString& accessibleName);
     QLineEdit* textBox(const QString& name, TextBox& control, const QString& accessibleName);
     QList<QAbstractButton*> optionButtons(const QString& array, OptionButtons& controls,
                                           const QStringList& accessibleNames = {});
 
     // One of an array.
-    template <size_t Size>
-    QCheckBox* checkBox(const QString& array, std::array<CheckBox, Size>& controls, int index)
+    template <class Name>
+    QCheckBox* checkBox(const QString& array, ControlArray<CheckBox, Name>& controls, Name which)
     {
-        return checkBox(NameOf(array, index), controls.at(static_cast<size_t>(index)));
+        return checkBox(NameOf(array, static_cast<int>(which)), controls[which]);
     }
-    template <size_t Size>
-    QLabel* label(const QString& array, std::array<Control, Size>& controls, int index)
+    template <class Name>
+    QLabel* label(const QString& array, ControlArray<Control, Name>& controls, Name which)
     {
-        return label(NameOf(array, index), controls.at(static_cast<size_t>(index)));
+        return label(NameOf(array, static_cast<int>(which)), controls[which]);
     }
 
     // A number with a button to lower it and one to raise it: the number itself takes no key.

@@ -21,7 +21,7 @@ ToolButtonView::ToolButtonView(int tool, QWidget* parent) : QToolButton(parent),
 void ToolButtonView::showEvent(QShowEvent* event)
 {
     if (icon().isNull()) // most tools are hidden at start-up, and their pictures cost time to read
-        setIcon(QIcon(u":/toolbar/"_s + QLatin1StringView(pictures.at(static_cast<size_t>(m_tool))) +
-                      u".png"_s));
+        setIcon(
+            QIcon(u":/toolbar/"_s + QLatin1StringView(pictures.at(static_cast<size_t>(m_tool))) + u".png"_s));
     QToolButton::showEvent(event);
 }

@@ -1,6 +1,7 @@
 #include "wad/GameFiles.h"
 
 #include "platform/Paths.h"
+#include "state/Truth.h"
 
 #include <algorithm>
 
@@ -11,8 +12,6 @@ namespace {
 constexpr const char16_t* neverGameFiles[] = {u"Doom2.wad", u"Doom.wad", u"Plutonia.wad",
                                               u"Doom1.wad", u"Tnt.wad",  u"kelspack.wad"};
 constexpr const char16_t* lumpFiles[] = {u"dd_defns", u"scp_defn", u"scp_zoff", u"sndinfo"};
-constexpr const char16_t* sideFileEndings[] = {u".txt", u".htm", u"html", u".doc",
-                                               u".deh", u".bex", u".ded", u".lmp"};
 
 const QString builtNodes = u"VYKgwa"_s;
 const QString engineBackup = u"VYKbak"_s;
@@ -40,56 +39,35 @@ void tidy(FileSystem& files, const QString& path)
 
 } // namespace
 
-bool IsGameFile(FileSystem& files, const QString& folder, const QString& name, bool wadFilesOnly)
+bool IsGameFile(FileSystem& files, const QString& folder, const QString& name)
 {
     if (names(neverGameFiles, name))
         return false;
-    if (names(lumpFiles, name) || EndsWith(name, u".wad"_s))
+    const bool isSideFile = !IsShownFile(name, true);
+    if (names(lumpFiles, name) || EndsWith(name, u".wad"_s) || isSideFile)
         return true;
-    if (std::ranges::any_of(sideFileEndings, [&](const char16_t* ending) {
-            return EndsWith(name, QString::fromUtf16(ending));
-        }))
-        return !wadFilesOnly;
     tidy(files, folder + name);
     return false;
 }
 
-QStringList GameFilesOf(FileSystem& files, const QString& folder, bool wadFilesOnly)
+QStringList GameFilesOf(FileSystem& files, const QString& folder)
 {
     // A backup that becomes its WAD again is listed as that WAD: tidying goes first.
     for (const QString& name : files.files(folder))
-        IsGameFile(files, folder, name, wadFilesOnly);
+        IsGameFile(files, folder, name);
     QStringList names = files.files(folder);
-    names.removeIf([&](const QString& name) { return !IsGameFile(files, folder, name, wadFilesOnly); });
+    names.removeIf([&](const QString& name) { return !IsGameFile(files, folder, name); });
     return names;
 }
 
-GatheredFiles GatherGameFiles(const FileSystem& files, const QString& mainWad,
-                              const std::function<int(const QString&)>& countMaps)
+QStringList GatherGameFiles(const QStringList& names, const QString& mainWad)
 {
-    const QString folder = FolderOf(mainWad);
-    const QString kind = FileNameOf(folder);
-    GatheredFiles gathered;
-    gathered.isArchive = SameName(kind, u"ZIPS"_s);
-    const bool isGwads = SameName(kind, u"GWADS"_s);
-    if (!gathered.isArchive && !isGwads && !SameName(kind, u"PWADS"_s))
-        return gathered;
-
-    gathered.inGameFolder = true;
-    gathered.userDir = gathered.isArchive ? folder : FileNameOf(FolderOf(folder));
-    if (isGwads)
-        return gathered; // the engine finds the files itself
-
-    QStringList withMaps, withoutMaps, patches;
-    for (const QString& name : files.files(folder)) {
-        const QString path = folder + u'/' + name;
-        if (EndsWith(name, u".wad"_s)) {
-            if (path != mainWad)
-                (countMaps(path) > 0 ? withMaps : withoutMaps) << path;
-        } else if (EndsWith(name, u".deh"_s) || EndsWith(name, u".ded"_s)) {
-            patches << path;
-        }
+    QStringList wads, patches;
+    for (const QString& name : names) {
+        if (EndsWith(name, u".deh"_s) || EndsWith(name, u".ded"_s))
+            patches << name;
+        else if (EndsWith(name, u".wad"_s) && !SameName(name, mainWad))
+            wads << name;
     }
-    gathered.StoredFiles = QStringList{mainWad} + withMaps + withoutMaps + patches;
-    return gathered;
+    return QStringList{mainWad} + wads + patches;
 }

@@ -1,15 +1,17 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "state/Launcher.h"
 
-// The path of the WAD with the most maps in a game's folder (ending in '/'), between equals the last in text
-// order without regard to case; empty when there is none.
-QString MainWadOf(Launcher& launcher, const QString& folder);
+#include <optional>
 
-// Selects a game's main WAD in PwadShowlist, which fills the map list; without one, or for a Gwad game,
-// nothing is chosen and Launch is off where no WAD is.
-void ChooseMainWad(Launcher& launcher, const QString& folder);
+// The WAD of a game that has the most maps, between equals the last in text order without regard to case:
+// its name; empty when there is none.
+QString ChooseMainWad(Launcher& launcher, const GameFacts& game);
 
-// Sets WarpArgument and SelectedIwadPath from the chosen map. A game without maps, or whose first map's
-// name begins with neither E nor M, leaves both as they are.
-void UpdateWarp(Launcher& launcher);
+// What the maps of the chosen file say about its start.
+struct Warp
+{
+    QString WarpArgument;             // of the chosen map: "07" or "2 5"; empty without one
+    std::optional<GameFamily> family; // whose IWAD the maps need: the chosen map's, else the first one's
+};
+Warp UpdateWarp(const Truth& truth);

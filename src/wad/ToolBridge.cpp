@@ -4,7 +4,6 @@
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -59,7 +58,7 @@ enum class EmptyReport { Kept, Dropped };
 QString wadReport(Launcher& launcher, const QString& path, EmptyReport empty)
 {
     const FileStamp stamp = launcher.files.stamp(path);
-    WadReport& known = launcher.wadReports[path];
+    KnownReport& known = launcher.facts.wadReports[path];
     if (!known.isKnown || known.stamp != stamp) {
         const std::optional<QString> report = runTool(launcher, checkWad, path);
         known = {stamp, report.value_or(QString()), report.has_value()};
@@ -87,35 +86,30 @@ int CountWadMaps(Launcher& launcher, const QString& path)
     return mapKey(wadReport(launcher, path, EmptyReport::Kept));
 }
 
-int KnownWadMaps(const Launcher& launcher, const QString& path)
+QStringList ListWadMaps(Launcher& launcher, const QString& path)
 {
-    return mapKey(launcher.wadReports.value(path).text);
-}
-
-void ListWadMaps(Launcher& launcher, const QString& path)
-{
-    const QString report = wadReport(launcher, path, EmptyReport::Dropped);
-    if (report.isEmpty())
-        return;
-    ListBox& maps = launcher.controls.MapList;
-    maps.clear();
-    const QStringList fields = FieldsOf(report);
+    QStringList maps;
+    const QStringList fields = FieldsOf(wadReport(launcher, path, EmptyReport::Dropped));
     for (qsizetype i = headerFields; i < fields.size(); ++i)
-        maps.add(fields.at(i).left(mapNameLength).trimmed());
+        maps << fields.at(i).left(mapNameLength).trimmed();
+    if (!maps.isEmpty() && maps.last().isEmpty())
+        maps.removeLast();
+    return maps;
 }
 
-bool ListSavegameHeaders(Launcher& launcher, const QString& folder)
+std::optional<QList<SaveGame>> ListSavegameHeaders(Launcher& launcher, const QString& folder)
 {
-    ListBox& list = launcher.controls.SaveGameList;
-    list.clear();
     const std::optional<QString> report = runTool(launcher, getSaveHeaders, folder);
-    if (!report || report->isEmpty())
-        return report.has_value();
+    if (!report)
+        return std::nullopt;
+    QList<SaveGame> savegames;
+    if (report->isEmpty())
+        return savegames;
     keepReport(launcher, *report);
     for (const QString& field : FieldsOf(*report))
         if (field.size() > 1)
-            list.add(field.left(1) + u" - "_s + field.mid(1));
-    return true;
+            savegames << SaveGame{.slot = field.left(1), .description = field.mid(1)};
+    return savegames;
 }
 
 int CheckPwad(const FileSystem& files, const InstallationPaths& paths, const QString& path)

@@ -29,82 +29,60 @@ class ShippedTextsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tips();
-    void plainTexts_data();
-    void plainTexts();
-    void links();
-    void engineSwitches();
+    void tips()
+    {
+        constexpr int longest = 200; // characters that the dialog shows without scrolling
+        LauncherFixture f;
+        f.installation.add(u"VYKLaunch/Data/tips.txt"_s, shipped(u"VYKLaunch/Data/tips.txt"_s));
+        Tips tips(f.launcher);
+        QSet<QString> seen;
+        for (; !seen.contains(tips.text()); tips.next()) {
+            const QString tip = tips.text();
+            seen << tip;
+            QVERIFY2(!tip.isEmpty() && tip.size() <= longest, qPrintable(tip));
+            QVERIFY2(std::ranges::all_of(tip, [](QChar c) { return c >= u' ' && c <= u'~'; }),
+                     qPrintable(tip));
+        }
+        QCOMPARE(f.launcher.settings.TipNumber, 1); // no tip stands there twice
+        QVERIFY(seen.size() >= 30);
+    }
+
+    // Where the launcher, its explanations and its dialogs say that they are.
+    void plainTexts_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"VYKLaunch/Data/playlist.txt", "VYK_Docs/Help/Iwad location.txt",
+                                 "VYK_Docs/Help/VYK_Cmdline.txt", "VYK_Docs/Help/VYK_sound.txt"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void plainTexts()
+    {
+        QFETCH(const QString, name);
+        const QByteArray text = shipped(name);
+        QVERIFY(!text.isEmpty());
+        QVERIFY(std::ranges::all_of(text,
+                                    [](char c) { return c == '\n' || c == '\r' || (c >= ' ' && c <= '~'); }));
+    }
+
+    // The help names no switch that there is not, and the asterisk stands where other engines know it.
+    void engineSwitches()
+    {
+        static const QRegularExpression name(u"(?<=^|\\s)-[a-z0-9_]+"_s,
+                                             QRegularExpression::CaseInsensitiveOption);
+        const QString help = QString::fromLatin1(shipped(u"VYK_Docs/Help/VYK_Cmdline.txt"_s));
+        int count = 0;
+        for (const QString& line : help.split(u"\r\n"_s)) {
+            for (auto found = name.globalMatch(line); found.hasNext(); ++count) {
+                const QString text = found.next().captured();
+                const EngineSwitch* known = FindEngineSwitch(text);
+                QVERIFY2(known, qPrintable(text));
+                QVERIFY2((known->use != SwitchUse::LeaveOut) == line.startsWith(u" * "_s), qPrintable(line));
+            }
+        }
+        QVERIFY(count > 50);
+    }
 };
-
-void ShippedTextsTest::tips()
-{
-    constexpr int longest = 200; // characters that the dialog shows without scrolling
-    LauncherFixture f;
-    f.installation.add(u"VYKLaunch/Data/tips.txt"_s, shipped(u"VYKLaunch/Data/tips.txt"_s));
-    Tips tips(f.launcher);
-    QSet<QString> seen;
-    for (; !seen.contains(tips.text()); tips.next()) {
-        const QString tip = tips.text();
-        seen << tip;
-        QVERIFY2(!tip.isEmpty() && tip.size() <= longest, qPrintable(tip));
-        QVERIFY2(std::ranges::all_of(tip, [](QChar c) { return c >= u' ' && c <= u'~'; }), qPrintable(tip));
-    }
-    QCOMPARE(f.launcher.settings.TipNumber, 1); // no tip stands there twice
-    QVERIFY(seen.size() >= 30);
-}
-
-// Where the launcher, its explanations and its dialogs say that they are.
-void ShippedTextsTest::plainTexts_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"VYKLaunch/Data/playlist.txt", "VYK_Docs/Help/Iwad location.txt",
-                             "VYK_Docs/Help/VYK_Cmdline.txt", "VYK_Docs/Help/VYK_sound.txt"})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
-
-void ShippedTextsTest::plainTexts()
-{
-    QFETCH(const QString, name);
-    const QByteArray text = shipped(name);
-    QVERIFY(!text.isEmpty());
-    QVERIFY(
-        std::ranges::all_of(text, [](char c) { return c == '\n' || c == '\r' || (c >= ' ' && c <= '~'); }));
-}
-
-void ShippedTextsTest::links()
-{
-    static const QRegularExpression reference(u"href=\"([^\"]*)\""_s);
-    int count = 0;
-    for (QDirIterator pages(assets() + u"VYK_Docs"_s, {u"*.htm"_s}); pages.hasNext();) {
-        const QString page = pages.next();
-        QFile file(page);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        for (auto found = reference.globalMatch(QString::fromLatin1(file.readAll())); found.hasNext();
-             ++count) {
-            const QString target = QUrl::fromPercentEncoding(found.next().captured(1).toLatin1());
-            QVERIFY2(QFileInfo::exists(QFileInfo(page).path() + u'/' + target), qPrintable(page + target));
-        }
-    }
-    QVERIFY(count > 0);
-}
-
-// The help names no switch that there is not, and the asterisk stands where other engines know it.
-void ShippedTextsTest::engineSwitches()
-{
-    static const QRegularExpression name(u"(?<=^|\\s)-[a-z0-9_]+"_s,
-                                         QRegularExpression::CaseInsensitiveOption);
-    const QString help = QString::fromLatin1(shipped(u"VYK_Docs/Help/VYK_Cmdline.txt"_s));
-    int count = 0;
-    for (const QString& line : help.split(u"\r\n"_s)) {
-        for (auto found = name.globalMatch(line); found.hasNext(); ++count) {
-            const QString text = found.next().captured();
-            const EngineSwitch* known = FindEngineSwitch(text);
-            QVERIFY2(known, qPrintable(text));
-            QVERIFY2((known->use != SwitchUse::LeaveOut) == line.startsWith(u" * "_s), qPrintable(line));
-        }
-    }
-    QVERIFY(count > 50);
-}
 
 QTEST_GUILESS_MAIN(ShippedTextsTest)
 #include "ShippedTextsTest.moc"

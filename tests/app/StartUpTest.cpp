@@ -55,37 +55,6 @@ class StartUpTest : public QObject
 private Q_SLOTS:
     void cleanup() { QDir::setCurrent(QDir::tempPath()); } // the installation's folder is gone
 
-    void stepsInOrder()
-    {
-        StartFixture f;
-        QCOMPARE(f.start(), StartResult::Running);
-        QCOMPARE(f.window.calls, QStringList({u"claim"_s, u"show"_s, u"tips"_s}));
-        QVERIFY(!f.loadedAtClaim); // a second start must not touch anything
-        QVERIFY(f.captionAtClaim);
-        QCOMPARE(f.launcher.controls.MainForm.caption, u"VYKLauncher v9.1  and  Keldrax v2.2"_s);
-        QVERIFY(!f.installation.exists(u"VYKLaunch/Admin"_s));
-        QCOMPARE(QDir::currentPath(), QDir(f.installation.root()).canonicalPath());
-    }
-
-    void tipsOnlyWhenWanted()
-    {
-        StartFixture f;
-        f.setConfig(f.configWith({{62, u" 0 "_s}}));
-        QCOMPARE(f.start(), StartResult::Running);
-        QVERIFY(!f.window.calls.contains(u"tips"_s));
-    }
-
-    void commandLine()
-    {
-        for (const QString& arguments :
-             {u"/WINE"_s, u"/wine"_s, u"/Restart"_s, u"/WINE /RESTART"_s, u"/RESTART /WINE"_s, u"/WINES"_s}) {
-            StartFixture f;
-            f.start(arguments);
-            QCOMPARE(f.launcher.startUp.RunningUnderWine, arguments.toUpper() == u"/WINE"_s);
-            QCOMPARE(f.window.calls.value(0), arguments == u"/Restart"_s ? u"claimWhenFree"_s : u"claim"_s);
-        }
-    }
-
     void secondStart()
     {
         StartFixture f;
@@ -137,14 +106,6 @@ private Q_SLOTS:
         QVERIFY(!f.window.shown);
     }
 
-    void windowsProgramsCount()
-    {
-        StartFixture f;
-        for (const QString& name : {u"Keldrax"_s, u"VYKgFiles"_s})
-            QVERIFY(QFile::rename(f.path(u"Bin/"_s + name), f.path(u"Bin/"_s + name.toUpper() + u".EXE"_s)));
-        QCOMPARE(CheckRequiredFiles(f.files, f.launcher.paths), QString());
-    }
-
     void failures()
     {
         const struct
@@ -152,9 +113,9 @@ private Q_SLOTS:
             QString at;
             Kind kind;
             bool access;
-        } rows[] = {{u"Admin"_s, Kind::PermissionDenied, true}, {u"Admin"_s, Kind::InUse, true},
-                    {u"Admin"_s, Kind::Exists, true},           {u"Admin"_s, Kind::NotFound, false},
-                    {u"Admin"_s, Kind::Other, false},           {u"VYKGames"_s, Kind::PermissionDenied, true},
+        } rows[] = {{u"Admin"_s, Kind::PermissionDenied, true},
+                    {u"Admin"_s, Kind::InUse, true},
+                    {u"Admin"_s, Kind::NotFound, false},
                     {u"VYKGames"_s, Kind::Other, false}};
         for (const auto& [at, kind, access] : rows) {
             StartFixture f;
@@ -173,71 +134,55 @@ private Q_SLOTS:
         }
     }
 
-    void firstConfigLine_data()
-    {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QString>("reason"); // how the message begins; empty when the settings stay
-        const QString upgrade = u"The latest version upgrade"_s;
-        const QString unreadable = u"Corrupt config file detected"_s;
-        const QByteArray rest = LauncherFixture::configWith({{4, u" 77 "_s}}).mid(4);
-        QTest::newRow("this version") << "v9.1" + rest << QString();
-        QTest::newRow("capital V") << "V9.1" + rest << QString();
-        QTest::newRow("UTF-8") << "\xEF\xBB\xBFv9.1" + rest << QString();
-        QTest::newRow("older") << "v9.0" + rest << upgrade;
-        QTest::newRow("longer") << "v9.1 " + rest << upgrade;
-        QTest::newRow("blank") << "" + rest << upgrade;
-        QTest::newRow("binary") << QByteArray("\0\xff\x1a\x80\0\r\n\0", 8) << upgrade;
-        QTest::newRow("empty") << QByteArray("") << unreadable;
-    }
     void firstConfigLine()
     {
-        QFETCH(QByteArray, before);
-        QFETCH(QString, reason);
-        const bool reset = !reason.isEmpty();
-        StartFixture f;
-        f.setConfig(before);
-        QVERIFY(QFile::setPermissions(f.path(u"VYKLaunch/config.vyk"_s), QFile::ReadOwner));
-        if (reset)
-            f.prompts.expectMessage();
-        QCOMPARE(f.start(), StartResult::Running);
-        QCOMPARE(f.launcher.settings.TipNumber, reset ? 0 : 77);
-        QCOMPARE(f.hasConfig(), !reset);
-        QVERIFY(!f.launcher.startUp.VersionUpdate && !f.launcher.startUp.ConfigReadError);
-        if (!reset)
-            return;
-        QCOMPARE(f.prompts.texts,
-                 {reason + u" required the launcher configurations to     \r\n"
-                           " be reset to the default settings, please reconfigure your settings. "_s});
-        QCOMPARE(f.prompts.titles, {u" Version update v9.1"_s});
-        QCOMPARE(f.prompts.styles, {4096});
-        QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), before);
-        UnloadMainWindow(f.launcher);
-        QCOMPARE(f.config().count("\r\n"), 83);
+        const QString upgrade = u"The latest version upgrade"_s;
+        const QByteArray rest = LauncherFixture::configWith({{4, u" 77 "_s}}).mid(4);
+        const std::pair<QByteArray, QString> rows[] = {{"V9.1" + rest, {}},
+                                                       {"\xEF\xBB\xBFv9.1" + rest, {}},
+                                                       {"v9.0" + rest, upgrade},
+                                                       {"v9.1 " + rest, upgrade},
+                                                       {rest, upgrade},
+                                                       {QByteArray("\0\xff\x1a\x80\0\r\n\0", 8), upgrade},
+                                                       {"", u"Corrupt config file detected"_s}};
+        for (const auto& [before, reason] : rows) { // without a reason the settings stay
+            const bool reset = !reason.isEmpty();
+            StartFixture f;
+            f.setConfig(before);
+            QVERIFY(QFile::setPermissions(f.path(u"VYKLaunch/config.vyk"_s), QFile::ReadOwner));
+            if (reset)
+                f.prompts.expectMessage();
+            QCOMPARE(f.start(), StartResult::Running);
+            QCOMPARE(f.launcher.settings.TipNumber, reset ? 0 : 77);
+            QCOMPARE(f.hasConfig(), !reset);
+            if (!reset)
+                continue;
+            QCOMPARE(f.prompts.texts,
+                     {reason + u" required the launcher configurations to     \r\n"
+                               " be reset to the default settings, please reconfigure your settings. "_s});
+            QCOMPARE(f.prompts.titles, {u" Version update v9.1"_s});
+            QCOMPARE(f.prompts.styles, {4096});
+            QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), before);
+            UnloadMainWindow(f.launcher);
+            QCOMPARE(f.config().count("\r\n"), 83);
+        }
     }
 
+    // Defaults must not replace a file of which there is no copy, nor a restart find it again.
     void oldSettingsStayWithoutACopy()
     {
-        for (const QString& failing : {u".bak"_s, u"config.vyk"_s}) {
-            StartFixture f;
-            f.setConfig("v1.0\r\nold");
-            f.files.failOn(failing, Kind::PermissionDenied);
-            f.prompts.expectMessage();
-            QCOMPARE(f.start(), StartResult::Ended);
-            QCOMPARE(f.prompts.titles, {accessTitle});
-            UnloadMainWindow(f.launcher);
-            QCOMPARE(f.config(), "v1.0\r\nold");
-        }
-    }
-
-    void engineVersion()
-    {
-        StartFixture f;
-        for (const auto& [content, version] :
-             {std::pair{"Keldrax v3.5\r\nmore"_ba, u"Keldrax v3.5"_s}, std::pair{""_ba, u"Keldrax v2.2"_s},
-              std::pair{"\r\n"_ba, u"Keldrax v2.2"_s}}) {
-            f.installation.add(u"VYKLaunch/Data/version.vyk"_s, content);
-            QCOMPARE(ReadEngineVersion(f.files, f.launcher.paths), version);
-        }
+        for (const QByteArray& before : {"v1.0\r\nold"_ba, LauncherFixture::configWith({{43, u"abc"_s}})})
+            for (const QString& failing : {u".bak"_s, u"config.vyk"_s}) {
+                StartFixture f;
+                f.setConfig(before);
+                f.files.failOn(failing, Kind::PermissionDenied);
+                f.prompts.expectMessage();
+                QCOMPARE(f.start(), StartResult::Ended);
+                QCOMPARE(f.prompts.titles, {accessTitle});
+                UnloadMainWindow(f.launcher);
+                QCOMPARE(f.config(), before);
+                QVERIFY(f.processes.starts.isEmpty());
+            }
     }
 };
 

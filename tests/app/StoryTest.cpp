@@ -3,8 +3,6 @@
 // evening is the same on every system.
 #include "app/MainWindowLoad.h"
 #include "app/StartUp.h"
-#include "catalogue/GameLists.h"
-#include "catalogue/InstallArchive.h"
 #include "music/PlaylistEditor.h"
 #include "platform/SystemProcesses.h"
 #include "tests/support/LauncherFixture.h"
@@ -46,7 +44,6 @@ public:
     ~Evening() { UnloadMainWindow(m_launcher); }
     Q_DISABLE_COPY_MOVE(Evening)
 
-    Launcher& launcher() { return m_launcher; }
     Controls& controls() { return m_launcher.controls; }
 
     static void click(ListBox& list, const QString& entry)
@@ -76,7 +73,7 @@ private:
     TemporaryInstallation& m_installation;
     DiskFileSystem m_files;
     SystemProcesses m_processes{m_files};
-    Launcher m_launcher;
+    ConnectedLauncher m_launcher;
 };
 
 // A text without what no two systems have in common: where the installation lies, and how that is spelled.
@@ -147,17 +144,18 @@ private Q_SLOTS:
             ZipMaker().add("Pack.wad", wad).add("pack.DEH", "patch").add("Docs/read me.txt", "text").bytes());
         Evening evening(m_installation);
         evening.prompts.expectFile(m_installation.path(u"Downloads/Zwei Läufer.WAD"_s));
-        evening.controls().AuxButton[0].clicked(); // install
+        evening.controls().AuxButton[Tool::Install].clicked(); // install
         QCOMPARE(evening.controls().PwadList.selectedText(), u"ZWEI LÄUFER"_s);
         Evening::click(evening.controls().MapList, u"MAP02"_s);
-        evening.controls().SkillsLevel[1].click(3);
+        evening.controls().SkillsLevel[SkillList::Basic].click(3);
         evening.controls().edCustom.text = u"rend-light 1, \"say grüß\" 2"_s;
+        evening.controls().edCustom.typed();
         QVERIFY(evening.play());
         QVERIFY(m_installation.read(u"arguments.txt"_s).contains("-skill\n3\n-warp\n2\n"));
 
-        OptionUdirClick(evening.launcher(), zipLibrary);
+        evening.controls().OptionUdir.click(View::ZipLibrary);
         evening.prompts.expectName(u"Böse & gut"_s);
-        InstallArchiveAsPwad(evening.launcher());
+        evening.controls().mcUdirUnZip.clicked();
         QCOMPARE(evening.controls().PwadList.selectedText(), u"BÖSE & GUT"_s);
         evening.prompts.expectName(u"Für abends"_s);
         evening.window.onMusicForm = [&](PlaylistEditor& music) {
@@ -165,14 +163,14 @@ private Q_SLOTS:
             music.AddMusicFile(11, m_installation.path(u"OggVorbis/own/läuft.ogg"_s));
             QVERIFY(music.save());
         };
-        evening.controls().butMusic[0].clicked(); // new playlist
+        evening.controls().butMusic[PlaylistCommand::New].clicked(); // new playlist
     }
 
     // What was chosen and saved in the game is there the next time.
     void secondEvening()
     {
         Evening evening(m_installation);
-        OptionUdirClick(evening.launcher(), installedGames);
+        evening.controls().OptionUdir.click(View::InstalledGames);
         Evening::click(evening.controls().PwadList, u"Zwei Läufer"_s);
         QCOMPARE(evening.controls().MapList.selectedText(), u"MAP02"_s);
         const QStringList saved = evening.controls().SaveGameList.entries();
@@ -184,8 +182,8 @@ private Q_SLOTS:
 
         evening.prompts.expectShortcut(
             ShortcutChoice{.StartMenuShortcut = true, .DesktopShortcut = true, .IncludeMapInShortcut = true});
-        evening.controls().AuxButton[2].clicked();
-        OptionUdirClick(evening.launcher(), zipLibrary);
+        evening.controls().AuxButton[Tool::Shortcut].clicked();
+        evening.controls().OptionUdir.click(View::ZipLibrary);
         Evening::click(evening.controls().PwadList, u"Böse Pack"_s);
         evening.prompts.expectName(u"Pack 2"_s);
         evening.controls().mcRenameArchive.clicked();
@@ -199,7 +197,7 @@ private Q_SLOTS:
         const QStringList before = m_installation.tree();
         {
             Evening evening(m_installation);
-            OptionUdirClick(evening.launcher(), installedGames);
+            evening.controls().OptionUdir.click(View::InstalledGames);
             Evening::click(evening.controls().PwadList, u"Zwei Läufer"_s);
             evening.prompts.expectMessage(Msg::ResultYes);
             evening.controls().mcDeleteFolder.clicked();

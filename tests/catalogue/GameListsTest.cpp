@@ -1,11 +1,8 @@
 // The games list and what choosing in it does; the records of what was chosen last.
-#include "catalogue/GameLists.h"
-
-#include "catalogue/GameRecords.h"
-#include "catalogue/ScriptedMapMode.h"
+#include "app/ShowAll.h"
 #include "launch/LaunchButton.h"
 #include "platform/Paths.h"
-#include "savegames/SaveGames.h"
+#include "records/GameRecords.h"
 #include "tests/support/CommercialGame.h"
 
 #include <QTest>
@@ -41,51 +38,36 @@ class GameListsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theDoomGames()
+    void views()
     {
         CommercialGame game;
-        Launcher& launcher = game.launcher;
-        const Controls& controls = launcher.controls;
-        QCOMPARE(controls.PwadList.entries(), (QStringList{u"DOOM II"_s, u"DOOM/ULTIMATE DOOM"_s}));
-        QCOMPARE(controls.Auto[0].caption, u"COMMERCIAL DOOM LIST"_s);
-        QCOMPARE(controls.OptionUdir[1].colour, Colour::Accent);
-        QCOMPARE(controls.OptionUdir[0].colour, Colour::Normal);
-        QCOMPARE(controls.PwadShowlist.entries(), QStringList{u"Doom2.wad"_s});
-        QCOMPARE(controls.MapList.entries(), (QStringList{u"MAP01"_s, u"MAP07"_s, u"MAP31"_s}));
-        QVERIFY(launcher.selection.DoomGameSelected && controls.LaunchButton.enabled);
-        QCOMPARE(launcher.settings.SelectedDoomGame, u"DOOM II"_s);
-        QCOMPARE(launcher.selection.SelectedWadPath, game.path(u"Iwads/Doom2.wad"_s));
-        QCOMPARE(launcher.selection.SaveGameFolder, game.path(u"UserSG/doom2/savegame"_s));
-
-        // The remembered game is selected again, in the other views as well.
+        const Controls& controls = game.launcher.controls;
         game.addWad(u"VYKGames/Beta/Pwads/b.wad"_s, {u"E1M1"_s});
         game.addWad(u"VYKGames/alpha/Gwads/a.wad"_s, {u"MAP01"_s});
         game.installation.addFolder(u"VYKGames/no game"_s);
-        OptionUdirClick(launcher, 0);
-        QCOMPARE(controls.PwadList.entries(), (QStringList{u"ALPHA"_s, u"BETA"_s}));
-        QVERIFY(launcher.selection.GwadSelected && !launcher.selection.PwadSelected);
-        QCOMPARE(controls.PwadShowlist.entries(), QStringList{u"a.wad"_s});
-        game.selectGame(u"BETA"_s);
-        QVERIFY(launcher.selection.PwadSelected && !launcher.selection.GwadSelected);
-        QCOMPARE(controls.MapList.entries(), QStringList{u"E1M1"_s});
-        QVERIFY(!launcher.selection.DoomGameSelected && controls.LaunchButton.enabled);
         game.installation.add(u"VYKArchives/some.ZIP"_s);
         game.installation.add(u"VYKArchives/some.txt"_s);
+        QCOMPARE(controls.PwadList.entries(), (QStringList{u"DOOM II"_s, u"DOOM/ULTIMATE DOOM"_s}));
+        QCOMPARE(controls.Auto[Heading::Games].caption, u"COMMERCIAL DOOM LIST"_s);
+        QCOMPARE(controls.MapList.entries(), (QStringList{u"MAP01"_s, u"MAP07"_s, u"MAP31"_s}));
+
+        game.show(View::InstalledGames);
+        QCOMPARE(controls.PwadList.entries(), (QStringList{u"ALPHA"_s, u"BETA"_s}));
+        QCOMPARE(controls.PwadShowlist.entries(), QStringList{u"a.wad"_s});
+        game.selectGame(u"BETA"_s);
+        QVERIFY(game.launcher.gameIs(GameKind::Pwad) && controls.LaunchButton.enabled);
         game.prompts.expectMessage(); // an empty file is no zip
-        OptionUdirClick(launcher, 2);
-        QCOMPARE(controls.Auto[0].caption, u"ZIP LIBRARY"_s);
+        game.show(View::ZipLibrary);
         QCOMPARE(controls.PwadList.entries(), QStringList{u"SOME"_s});
         QVERIFY(controls.MapList.isEmpty() && !controls.LaunchButton.enabled);
-        OptionUdirClick(launcher, 0);
-        QCOMPARE(controls.PwadList.selectedText(), u"BETA"_s);
-        OptionUdirClick(launcher, 1);
-        QCOMPARE(controls.PwadList.selectedText(), u"DOOM II"_s);
-        QVERIFY(controls.LaunchButton.enabled);
 
-        launcher.iwads = {};
-        OptionUdirClick(launcher, 1);
+        // Each view has its own remembered game.
+        game.show(View::InstalledGames);
+        QCOMPARE(controls.PwadList.selectedText(), u"BETA"_s);
+        game.launcher.facts.iwads = {};
+        game.show(View::DoomGames);
         QVERIFY(controls.PwadList.isEmpty() && controls.PwadShowlist.isEmpty());
-        QVERIFY(!controls.LaunchButton.enabled && !controls.AuxButton[2].enabled);
+        QVERIFY(!controls.LaunchButton.enabled && !controls.AuxButton[Tool::Shortcut].enabled);
     }
 
     void mapsAreRemembered()
@@ -96,60 +78,53 @@ private Q_SLOTS:
         QVERIFY(!game.installation.exists(doom2Map)); // restored, not picked
         game.pickMap(u"MAP07"_s);
         QCOMPARE(game.installation.read(doom2Map), "MAP07\r\n");
-        game.selectGame(u"Doom/Ultimate Doom"_s);
-        QCOMPARE(maps.selectedText(), u"E1M1"_s);
-        QCOMPARE(game.launcher.launch.WarpArgument, u"1 1"_s);
-        game.selectGame(u"Doom II"_s);
-        QCOMPARE(maps.selectedText(), u"MAP07"_s);
-        QCOMPARE(game.launcher.launch.WarpArgument, u"07"_s);
-        for (const QByteArray& record : {QByteArray(), QByteArray("MAP99\r\n"), QByteArray("\0\xff,", 3)}) {
+        const QList<QPair<QByteArray, QString>> rows{{"MAP07\r\n", u"MAP07"_s},
+                                                     {"", u"MAP01"_s},
+                                                     {"MAP99\r\n", u"MAP01"_s},
+                                                     {QByteArray("\0\xff,", 3), u"MAP01"_s},
+                                                     {" \"map31\" ,more\r\nMAP07\r\n", u"MAP31"_s}};
+        for (const auto& [record, map] : rows) {
             game.installation.add(doom2Map, record);
             game.selectGame(u"Doom II"_s);
-            QCOMPARE(maps.selectedText(), u"MAP01"_s);
+            QCOMPARE(maps.selectedText(), map);
         }
-        game.installation.add(doom2Map, " \"map31\" ,more\r\nMAP07\r\n");
-        game.selectGame(u"Doom II"_s);
-        QCOMPARE(maps.selectedText(), u"MAP31"_s);
-
         game.addWad(u"VYKGames/Mine/Pwads/m.wad"_s, {u"MAP01"_s, u"MAP02"_s});
-        OptionUdirClick(game.launcher, 0);
+        game.show(View::InstalledGames);
         game.pickMap(u"MAP02"_s);
         QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Pwads/mine.vykm"_s), "MAP02\r\n");
-        game.addWad(u"Iwads/Doom1.wad"_s, {u"E1M1"_s});
-        game.launcher.iwads.of(GameFamily::Shareware) = game.path(u"Iwads/Doom1.wad"_s);
-        OptionUdirClick(game.launcher, 1);
-        game.selectGame(u"Shareware Doom"_s);
-        game.pickMap(u"E1M1"_s);
-        QCOMPARE(game.installation.read(u"VYKLaunch/GameInfo/Iwads/shareware doom.vykm"_s), "E1M1\r\n");
     }
 
+    // A savegame gives way to a map for good, whether the map is remembered or not.
     void mapsAreNotRemembered()
     {
         CommercialGame game(remembering(false, true));
         game.installation.add(doom2Map, "MAP31\r\n");
-        game.selectGame(u"Doom II"_s);
-        QCOMPARE(game.launcher.controls.MapList.selectedText(), u"MAP01"_s);
         addSavegames(game);
+        QCOMPARE(game.launcher.controls.MapList.selectedText(), u"MAP01"_s);
         game.pickSavegame(u"7 - Before the boss"_s);
+        QVERIFY(game.installation.exists(doom2Save));
         game.pickMap(u"MAP07"_s);
         QCOMPARE(game.installation.read(doom2Map), "MAP31\r\n");
-        QCOMPARE(game.installation.read(doom2Save), "7\r\n"); // only a remembered map takes its place
+        QVERIFY(!game.installation.exists(doom2Save));
     }
 
-    // A name out of the settings never leads out of the records' folder.
+    // A game's name never leads out of the records' folder.
     void hostileNames()
     {
         CommercialGame game(remembering(true, true));
         const QStringList before = game.installation.tree();
-        game.launcher.selection.DoomGameSelected = false;
-        game.launcher.selection.PwadSelected = true;
-        for (const QString& name : {u"../../x"_s, u"a/b"_s, u"a\\b"_s, u"/etc/x"_s, u" "_s, QString()}) {
-            game.launcher.selection.SelectedPwadGame = name;
-            game.pickMap(u"MAP07"_s);
-            SaveLastSavegame(game.launcher);
-            QCOMPARE(LastSavegame(game.launcher), QString());
+        for (const GameKind kind : {GameKind::Pwad, GameKind::Gwad, GameKind::Archive}) {
+            for (const QString& name : {u"../../x"_s, u"a/b"_s, u"a\\b"_s, u"/etc/x"_s, u" "_s, QString()}) {
+                game.launcher.facts.game.kind = kind;
+                game.launcher.facts.game.name = name;
+                GameRecords records(game.files, game.launcher.paths, game.launcher);
+                records.SaveLastMap();
+                records.SaveGwadSelection();
+                records.SaveLastSavegame();
+                QCOMPARE(records.map() + records.gwadFile() + records.LastSavegame(), QString());
+                QCOMPARE(game.installation.tree(), before);
+            }
         }
-        QCOMPARE(game.installation.tree(), before);
     }
 
     void savegames()
@@ -171,22 +146,19 @@ private Q_SLOTS:
         // Remembered for its game alone, and restored in place of the map.
         game.selectGame(u"Doom/Ultimate Doom"_s);
         QVERIFY(controls.SaveGameList.isEmpty());
-        QCOMPARE(launcher.launch.StartChoice, StartChoice::ChosenMap);
-        QVERIFY(launcher.launch.SaveSlot.isEmpty());
+        QCOMPARE(controls.MapList.selectedText(), u"E1M1"_s);
         game.selectGame(u"Doom II"_s);
         QCOMPARE(controls.SaveGameList.selectedText(), u"7 - Before the boss"_s);
-        QCOMPARE(launcher.launch.StartChoice, StartChoice::ChosenSavegame);
         QCOMPARE(controls.MapList.selected(), -1);
 
         // After a game the slot stays chosen, wherever it is listed now.
         game.installation.add(u"UserSG/doom2/savegame/KeldraxSav1.vyksg"_s, "New\0"_ba);
-        RefreshSaveGames(launcher);
+        ActivateMainWindow(launcher);
         QCOMPARE(controls.SaveGameList.count(), 3);
         QCOMPARE(controls.SaveGameList.selectedText(), u"7 - Before the boss"_s);
 
         game.pickMap(u"MAP31"_s);
         QVERIFY(!game.installation.exists(doom2Save));
-        QVERIFY(launcher.launch.SaveSlot.isEmpty());
         QCOMPARE(controls.SaveGameList.selected(), -1);
         game.installation.add(doom2Save, "9");
         game.selectGame(u"Doom II"_s);
@@ -202,7 +174,7 @@ private Q_SLOTS:
         game.pickSavegame(u"7 - Before the boss"_s);
         game.files.failOn(u"GameInfo"_s, FileError::Kind::PermissionDenied);
         game.pickSavegame(u"0 - Start, 'gun'"_s);
-        QCOMPARE(game.launcher.launch.SaveSlot, u"0"_s);
+        QCOMPARE(game.launcher.chosenSlot(), u"0"_s);
         game.pickMap(u"MAP31"_s);
         QCOMPARE(game.installation.read(doom2Map), "MAP07\r\n");
         QCOMPARE(game.installation.read(doom2Save), "7\r\n");
@@ -222,16 +194,15 @@ private Q_SLOTS:
                     items << (item->enabled ? item->caption : u"("_s + item->caption + u')');
             return items;
         };
-        QVERIFY(!controls.PwadList.taskMenu()); // a Doom game has no tasks
-        QVERIFY(!controls.SaveGameList.taskMenu());
+        QVERIFY(!controls.PwadList.taskMenu() &&
+                !controls.SaveGameList.taskMenu()); // a Doom game has no tasks
         game.addWad(u"VYKGames/Auto/Gwads/a.wad"_s, {u"MAP01"_s});
         game.addWad(u"VYKGames/Hand/Pwads/h.wad"_s, {u"MAP01"_s});
         game.addWad(u"VYKGames/iron tide/Pwads/irontide.wad"_s, {u"MAP01"_s});
-        OptionUdirClick(game.launcher, installedGames);
+        game.show(View::InstalledGames);
         game.selectGame(u"HAND"_s);
         QCOMPARE(shown(controls.PwadList.taskMenu()),
                  (QStringList{u"Uninstall game from list"_s, u"Rename game in list"_s}));
-        QVERIFY(!controls.PwadShowlist.taskMenu());
         controls.chkTesting.setTicked(true);
         QCOMPARE(shown(controls.PwadList.taskMenu()).mid(2),
                  (QStringList{u"(Convert Udir to Pwads)"_s, u"Convert  Udir to Gwads"_s}));
@@ -239,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(shown(controls.PwadList.taskMenu()).mid(2),
                  (QStringList{u"Convert Udir to Pwads"_s, u"(Convert  Udir to Gwads)"_s}));
         QVERIFY(!controls.PwadShowlist.taskMenu());
-        controls.PwadShowlist.click(0);
+        game.pickFile(u"a.wad"_s);
         QCOMPARE(shown(controls.PwadShowlist.taskMenu()), QStringList{u"Delete file"_s});
         game.selectGame(u"IRON TIDE"_s);
         QCOMPARE(shown(controls.PwadList.taskMenu()), QStringList{u"Uninstall game from list"_s});
@@ -260,12 +231,10 @@ private Q_SLOTS:
         };
         const auto before = runs();
         launcher.settings.SelectedGame = u"Stra\u00dfe"_s;
-        OptionUdirClick(launcher, installedGames);
+        game.show(View::InstalledGames);
         QCOMPARE(launcher.controls.PwadList.selectedText(), u"STRASSE"_s);
         QCOMPARE(launcher.controls.PwadShowlist.count(), wads);
         QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"w9.wad"_s);
-        QCOMPARE(runs() - before, wads);
-        game.selectGame(u"STRASSE"_s);
         QCOMPARE(runs() - before, wads);
         game.addWad(u"VYKGames/Stra\u00dfe/Pwads/w3.wad"_s, {u"MAP01"_s, u"MAP02"_s});
         game.selectGame(u"STRASSE"_s);
@@ -273,28 +242,6 @@ private Q_SLOTS:
         QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"w3.wad"_s);
         LaunchSelectedGame(launcher);
         QVERIFY(game.processes.lastCommandLine().contains(u"-udir \"Stra\u00dfe\" "_s));
-    }
-
-    void doubleClicks()
-    {
-        CommercialGame game;
-        Controls& controls = game.launcher.controls;
-        game.installation.add(u"VYKGames/Texts/Pwads/SndInfo"_s);
-        game.installation.add(u"VYKGames/Texts/Pwads/read me.txt"_s);
-        game.launcher.settings.WadFilesOnly = false;
-        OptionUdirClick(game.launcher, installedGames);
-        const QString folder = game.path(u"VYKGames/Texts/Pwads/"_s);
-        const auto doubleClick = [&](const QString& file) {
-            controls.PwadShowlist.click(controls.PwadShowlist.find(file));
-            controls.PwadShowlist.doubleClicked();
-        };
-        doubleClick(u"read me.txt"_s);
-        QCOMPARE(game.prompts.opened, QStringList{folder + u"read me.txt"_s});
-        doubleClick(u"sndinfo"_s);
-        QCOMPARE(game.processes.lastCommandLine(), u"notepad.exe \""_s + NativePath(folder) + u"SndInfo\""_s);
-        game.processes.startResult = false; // there is no such editor here
-        doubleClick(u"sndinfo"_s);
-        QCOMPARE(game.prompts.opened.last(), folder + u"SndInfo"_s);
     }
 
     void clearingWhatIsRemembered()
@@ -305,52 +252,33 @@ private Q_SLOTS:
         for (const QString& record : {u"Iwads/a.vykm"_s, u"Pwads/a.vykm"_s, u"Zips/a.vykm"_s,
                                       u"Gwads/a.vykm"_s, u"Gwads/a.vykg"_s, u"Save/Gwads/a/b.vyks"_s})
             game.installation.add(info + record);
-        const QStringList all = game.installation.tree();
-        controls.chkLaunchPrefs[0].setValue(2); // greyed
-        QCOMPARE(game.installation.tree(), all);
-        controls.chkLaunchPrefs[0].setTicked(false);
+        controls.chkLaunchPrefs[LaunchPrefs::RememberLastMap].setTicked(false);
         QCOMPARE(game.installation.tree().filter(info),
                  (QStringList{info + u"Gwads/a.vykg"_s, info + u"Save/Gwads/a/b.vyks"_s}));
-        QVERIFY(!game.launcher.settings.RememberLastMap);
-        controls.chkLaunchPrefs[4].setTicked(!game.launcher.settings.WadFilesOnly);
-        QCOMPARE(game.launcher.settings.WadFilesOnly, controls.chkLaunchPrefs[4].ticked());
-        controls.chkLaunchPrefs[1].setTicked(false);
+        controls.chkLaunchPrefs[LaunchPrefs::RememberLastSavegame].setTicked(false);
         QCOMPARE(game.installation.tree().filter(info), QStringList{info + u"Gwads/a.vykg"_s});
     }
 
     void theScriptedMapSwitch()
     {
         CommercialGame game;
-        Launcher& launcher = game.launcher;
-        Controls& controls = launcher.controls;
+        Controls& controls = game.launcher.controls;
         game.addWad(u"VYKGames/Plain/Pwads/p.wad"_s, {u"MAP01"_s});
         game.addWad(u"VYKGames/iron tide/Pwads/irontide.wad"_s, {u"MAP01"_s});
-        controls.chkMain[2].setTicked(true);
-        OptionUdirClick(launcher, 0);
+        controls.chkMain[Main::AdvancedOptions].setTicked(true);
+        game.show(View::InstalledGames);
         QVERIFY(!controls.ImageCM.visible); // no models, no switch
-        controls.Auto[0].clicked();
-        QCOMPARE(controls.PwadList.count(), 2);
-
         game.installation.addFolder(u"Md2/irontide"_s);
-        OptionUdirClick(launcher, 0);
+        game.load();
         QVERIFY(controls.ImageCM.visible);
         game.selectGame(u"PLAIN"_s);
-        QCOMPARE(controls.Auto[0].caption, u"INSTALLED GAMES LIST"_s);
-        launcher.settings.SelectedGameAutoOff = u"PLAIN"_s;
         controls.ImageCM.clicked();
         QCOMPARE(controls.PwadList.entries(), QStringList{u"IRON TIDE"_s});
-        QCOMPARE(controls.Auto[0].caption, u"KELDRAX SCRIPTED MAP"_s);
-        QVERIFY(controls.ChkCM.ticked() && controls.chkAutoSelect.ticked());
-        QCOMPARE(launcher.settings.SelectedGameAutoOn, u"iron tide"_s);
-        controls.Auto[0].clicked();
+        QCOMPARE(controls.Auto[Heading::Games].caption, u"KELDRAX SCRIPTED MAP"_s);
+        game.load(); // as the next start finds it
+        QCOMPARE(controls.PwadList.entries(), QStringList{u"IRON TIDE"_s});
+        controls.Auto[Heading::Games].clicked();
         QCOMPARE(controls.PwadList.selectedText(), u"PLAIN"_s);
-
-        // A mode that was restored is not toggled by the load.
-        controls.ImageCM.clicked();
-        RestoreScriptedMapMode(launcher);
-        QCOMPARE(controls.PwadList.entries(), QStringList{u"IRON TIDE"_s});
-        OptionUdirClick(launcher, 1);
-        QVERIFY(!controls.ImageCM.visible);
     }
 };
 

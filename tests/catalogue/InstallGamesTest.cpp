@@ -1,7 +1,5 @@
 // Installing games: what is in the catalogue afterwards, also when a call fails or the player cancels.
-#include "catalogue/GameLists.h"
 #include "catalogue/GameStaging.h"
-#include "catalogue/InstallArchive.h"
 #include "catalogue/InstallGame.h"
 #include "tests/support/CommercialGame.h"
 #include "tests/support/ZipMaker.h"
@@ -32,10 +30,16 @@ public:
         addWad(u"VYKGames/Auto/Gwads/auto.wad"_s, {u"MAP01"_s});
         installation.add(u"VYKGames/Auto/Gwads/pack.deh"_s, "old patch");
         installation.add(u"VYKGames/Auto/notes.txt"_s, "mine");
-        OptionUdirClick(launcher, installedGames);
+        show(View::InstalledGames);
     }
 
+    Controls& controls = launcher.controls;
+
     Installed install(const QString& file) { return InstallPwadGame(launcher, path(file)); }
+
+    // The selected zip of the library, as a game of either kind.
+    void byHand(const QString& name) { unzip(name, controls.mcUdirUnZip); }
+    void autoLoading(const QString& name) { unzip(name, controls.mcGwadUnZip); }
 
     QMap<QString, QByteArray> games() const
     {
@@ -44,6 +48,14 @@ public:
             if (file.startsWith(u"VYKGames/"_s))
                 found[file.mid(9)] = installation.read(file);
         return found;
+    }
+
+private:
+    void unzip(const QString& name, const MenuItem& item)
+    {
+        show(View::ZipLibrary);
+        prompts.expectName(name);
+        item.clicked();
     }
 };
 
@@ -69,16 +81,18 @@ private Q_SLOTS:
     {
         Library library;
         Launcher& launcher = library.launcher;
-        launcher.controls.PwadList.setFilter(u"hand"_s);
+        Controls& controls = library.controls;
+        controls.edFilter.text = u"hand"_s;
+        controls.edFilter.typed();
         library.prompts.expectFile(library.path(u"Downloads/My Levels.WAD"_s));
-        launcher.controls.AuxButton[0].clicked();
+        controls.AuxButton[Tool::Install].clicked();
         QCOMPARE(library.prompts.fileQuestions.last().pattern, u"*.zip;*.wad;"_s);
         QCOMPARE(library.prompts.fileQuestions.last().folder, launcher.paths.ArchivesPath);
         QCOMPARE(below(library.games().keys(), u"My Levels"_s), QStringList{u"Pwads/My Levels.WAD"_s});
-        QCOMPARE(launcher.controls.PwadList.selectedText(), u"MY LEVELS"_s);
-        QVERIFY(launcher.controls.PwadList.isInSight(launcher.controls.PwadList.selected()));
-        QCOMPARE(launcher.controls.MapList.entries(), (QStringList{u"MAP01"_s, u"MAP02"_s}));
-        QCOMPARE(LoadLastInstallFolder(launcher), library.path(u"Downloads"_s));
+        QCOMPARE(controls.PwadList.selectedText(), u"MY LEVELS"_s);
+        QVERIFY(controls.PwadList.isInSight(controls.PwadList.selected()));
+        QCOMPARE(controls.MapList.entries(), (QStringList{u"MAP01"_s, u"MAP02"_s}));
+        QCOMPARE(LoadLastInstallFolder(launcher.files, launcher.paths), library.path(u"Downloads"_s));
         QVERIFY(library.hasConfig());
 
         // The second time it is there already, and nothing changes.
@@ -86,14 +100,14 @@ private Q_SLOTS:
         library.installation.add(u"VYKLaunch/Data/pwads.vyk"_s, "/elsewhere\r\n");
         library.prompts.expectFile(library.path(u"Downloads/My Levels.WAD"_s));
         library.prompts.expectMessage();
-        InstallGameFromFile(launcher);
+        controls.AuxButton[Tool::Install].clicked();
         QCOMPARE(library.prompts.titles.last(), u" Duplicate name error"_s);
         QCOMPARE(library.installation.read(u"VYKLaunch/Data/pwads.vyk"_s), "/elsewhere\r\n");
 
         // Cancelling writes the folder anew; a file of another kind is left alone.
         library.prompts.expectFile({});
-        InstallGameFromFile(launcher);
-        QCOMPARE(LoadLastInstallFolder(launcher), launcher.paths.ArchivesPath);
+        controls.AuxButton[Tool::Install].clicked();
+        QCOMPARE(LoadLastInstallFolder(launcher.files, launcher.paths), launcher.paths.ArchivesPath);
         QCOMPARE(library.install(u"VYKGames/Auto/notes.txt"_s), Installed::NotAGame);
         QVERIFY(library.games() == before);
     }
@@ -103,81 +117,66 @@ private Q_SLOTS:
         Library library;
         const QStringList dropped{library.path(u"Downloads/My Levels.WAD"_s), library.path(u"notes.txt"_s),
                                   library.path(u"Downloads/Pack.zip"_s)};
-        library.launcher.controls.MainForm.filesDropped(dropped);
+        library.controls.MainForm.filesDropped(dropped);
         QCOMPARE(below(library.games().keys(), u"Pack/Pwads"_s), packFiles);
-        QCOMPARE(library.launcher.controls.PwadList.selectedText(), u"PACK"_s);
-        QVERIFY(library.launcher.controls.PwadList.find(u"my levels"_s) >= 0);
+        QCOMPARE(library.controls.PwadList.selectedText(), u"PACK"_s);
+        QVERIFY(library.controls.PwadList.find(u"my levels"_s) >= 0);
     }
 
     void fromTheZipLibrary()
     {
         Library library;
-        Launcher& launcher = library.launcher;
-        OptionUdirClick(launcher, zipLibrary);
-        QCOMPARE(launcher.controls.PwadShowlist.entries(),
+        const Controls& controls = library.controls;
+        library.show(View::ZipLibrary);
+        QCOMPARE(controls.PwadShowlist.entries(),
                  (QStringList{u"pack.DEH"_s, u"Pack.wad"_s, u"read me.txt"_s}));
-        QCOMPARE(launcher.controls.PwadShowlist.selectedText(), u"Pack.wad"_s);
-        QCOMPARE(launcher.controls.MapList.entries(), QStringList{u"E1M1"_s});
-        QVERIFY(launcher.controls.LaunchButton.enabled);
-        library.prompts.expectName(u"Two"_s);
-        InstallArchiveAsPwad(launcher);
+        QCOMPARE(controls.PwadShowlist.selectedText(), u"Pack.wad"_s);
+        QCOMPARE(controls.MapList.entries(), QStringList{u"E1M1"_s});
+        QVERIFY(controls.LaunchButton.enabled);
+        library.byHand(u"Two"_s);
         QCOMPARE(library.prompts.nameQuestions.last().name, u"Pack"_s);
         QCOMPARE(below(library.games().keys(), u"Two/Pwads"_s), packFiles);
-        QCOMPARE(launcher.controls.PwadList.selectedText(), u"TWO"_s);
-
-        OptionUdirClick(launcher, zipLibrary);
-        library.prompts.expectName(u"HAND"_s);
+        QCOMPARE(controls.PwadList.selectedText(), u"TWO"_s);
         library.prompts.expectMessage();
-        InstallArchiveAsPwad(launcher);
+        library.byHand(u"HAND"_s);
         QCOMPARE(library.prompts.titles.last(), u" Duplicate name error"_s);
 
         // Over an auto-loading game: only when the player agrees, and then the whole game goes.
         const auto before = library.games();
-        library.prompts.expectName(u"auto"_s);
         library.prompts.expectMessage(Msg::ResultNo);
-        InstallArchiveAsPwad(launcher);
+        library.byHand(u"auto"_s);
         QVERIFY(library.games() == before);
-        library.prompts.expectName(u"auto"_s);
         library.prompts.expectMessage(Msg::ResultYes);
-        InstallArchiveAsPwad(launcher);
+        library.byHand(u"auto"_s);
         QCOMPARE(below(library.games().keys(), u"auto/Pwads"_s), packFiles);
         QVERIFY(below(library.games().keys(), u"Auto"_s).isEmpty());
-
-        // As an auto-loading game: new, then into the existing one; never over one loaded by hand.
-        for (const QString& title : {u" User Directory Conversion"_s, u"User Directory Conversion"_s}) {
-            OptionUdirClick(launcher, zipLibrary);
-            library.prompts.expectName(u"Fresh"_s);
-            library.prompts.expectMessage();
-            InstallArchiveAsGwad(launcher);
-            QCOMPARE(library.prompts.titles.last(), title);
-            QCOMPARE(below(library.games().keys(), u"Fresh/Gwads"_s), packFiles);
-            QVERIFY(launcher.selection.GwadSelected);
-        }
-        OptionUdirClick(launcher, zipLibrary);
-        library.prompts.expectName(u"hand"_s);
-        library.prompts.expectMessage();
-        InstallArchiveAsGwad(launcher);
-        QCOMPARE(library.prompts.texts.last(),
-                 u" The hand folder already exists as an auto-loading User Directory     "_s);
-        for (const QString& name : {u"../x"_s, u"nul"_s, u" "_s}) {
-            library.prompts.expectName(name);
-            library.prompts.expectMessage();
-            InstallArchiveAsGwad(launcher);
-            QCOMPARE(library.prompts.texts.last(), u" Illegal naming convention detected.    "_s);
-        }
     }
 
-    void intoAnAutoLoadingGame()
+    // New, then into the existing one, whatever the spelling of its files; never over one loaded by hand.
+    void asAnAutoLoadingGame()
     {
         Library library;
-        OptionUdirClick(library.launcher, zipLibrary);
-        library.prompts.expectName(u"Auto"_s);
+        for (const QString& title : {u" User Directory Conversion"_s, u"User Directory Conversion"_s}) {
+            library.prompts.expectMessage();
+            library.autoLoading(u"Fresh"_s);
+            QCOMPARE(library.prompts.titles.last(), title);
+            QCOMPARE(below(library.games().keys(), u"Fresh/Gwads"_s), packFiles);
+            QVERIFY(library.launcher.gameIs(GameKind::Gwad));
+        }
         library.prompts.expectMessage();
-        InstallArchiveAsGwad(library.launcher);
+        library.autoLoading(u"Auto"_s);
         const auto games = library.games();
         QCOMPARE(games.value(u"Auto/Gwads/pack.DEH"_s), "patch");
         QVERIFY(!games.contains(u"Auto/Gwads/pack.deh"_s));
         QVERIFY(games.contains(u"Auto/Gwads/auto.wad"_s) && games.contains(u"Auto/notes.txt"_s));
+        const QString isThere = u" The hand folder already exists as an auto-loading User Directory     "_s;
+        const QString illegal = u" Illegal naming convention detected.    "_s;
+        for (const QString& name : {u"hand"_s, u"../x"_s, u"nul"_s, u" "_s}) {
+            library.prompts.expectMessage();
+            library.autoLoading(name);
+            QCOMPARE(library.prompts.texts.last(), name == u"hand"_s ? isThere : illegal);
+        }
+        QVERIFY(library.games() == games);
     }
 
     // What cannot be replaced stays, and so does everything else.
@@ -191,10 +190,8 @@ private Q_SLOTS:
             else
                 library.installation.add(u"VYKGames/Auto/Gwads/read me.txt/mine"_s, "kept");
             const auto before = library.games();
-            OptionUdirClick(library.launcher, zipLibrary);
-            library.prompts.expectName(u"Auto"_s);
             library.prompts.expectMessage();
-            InstallArchiveAsGwad(library.launcher);
+            library.autoLoading(u"Auto"_s);
             QCOMPARE(library.prompts.texts.last(),
                      readOnly ? u" Read only error, file can't be overwritten      "_s
                               : u"ERROR: Unknown error     "_s);
@@ -213,12 +210,12 @@ private Q_SLOTS:
         QCOMPARE(library.prompts.titles.last(), u" File error"_s);
         library.prompts.expectMessage();
         library.launcher.settings.SelectedArchive = u"bad"_s;
-        OptionUdirClick(library.launcher, zipLibrary);
-        QVERIFY(library.launcher.controls.PwadShowlist.isEmpty());
-        QVERIFY(!library.launcher.controls.LaunchButton.enabled);
+        library.show(View::ZipLibrary);
+        QVERIFY(library.controls.PwadShowlist.isEmpty());
+        QVERIFY(!library.controls.LaunchButton.enabled);
         // A zip that cannot be opened is no game to install.
         library.prompts.expectMessage();
-        InstallArchiveAsPwad(library.launcher);
+        library.controls.mcUdirUnZip.clicked();
         QVERIFY(library.games() == before);
     }
 
@@ -245,14 +242,10 @@ private Q_SLOTS:
         const QList<std::function<void(Library&)>> operations{
             [](Library& library) { library.install(u"Downloads/My Levels.WAD"_s); },
             [](Library& library) { library.install(u"Downloads/Pack.zip"_s); },
+            [](Library& library) { library.autoLoading(u"Auto"_s); },
             [](Library& library) {
-                library.prompts.expectName(u"Auto"_s);
-                InstallArchiveAsGwad(library.launcher);
-            },
-            [](Library& library) {
-                library.prompts.expectName(u"Auto"_s);
                 library.prompts.expectMessage(Msg::ResultYes);
-                InstallArchiveAsPwad(library.launcher);
+                library.byHand(u"Auto"_s);
             },
         };
         const QStringList rows{u" Read only error, file can't be overwritten      "_s,
@@ -264,7 +257,7 @@ private Q_SLOTS:
                 int reported = 0;
                 for (int call = 1;; ++call) {
                     Library library;
-                    OptionUdirClick(library.launcher, zipLibrary);
+                    library.show(View::ZipLibrary);
                     const auto before = library.games();
                     library.prompts.allowMessages = true;
                     library.files.failAt(call, kind);

@@ -1,6 +1,6 @@
 #include "iwads/IwadDialog.h"
 
-#include "catalogue/GameLists.h"
+#include "app/ShowAll.h"
 #include "platform/Paths.h"
 #include "tests/support/LauncherFixture.h"
 
@@ -12,7 +12,7 @@ class DialogFixture : public LauncherFixture
 {
 public:
     IwadDialog dialog{launcher};
-    IwadPaths& iwads = launcher.iwads;
+    IwadPaths& iwads = launcher.facts.iwads;
 
     // The paths of the four boxes and of iwads.cfg, relative to the installation, as one text each.
     QString boxes() const { return relative(QStringList(iwads.ShowIwads.begin(), iwads.ShowIwads.end())); }
@@ -26,6 +26,7 @@ public:
     {
         prompts.expectFile(file.isEmpty() ? QString() : addIwad(file));
         dialog.addIwad();
+        ShowWindow(launcher);
     }
 
 private:
@@ -45,16 +46,23 @@ private Q_SLOTS:
     void addFillsTheNextBox()
     {
         DialogFixture f;
+        f.add({}); // cancelled
+        QCOMPARE(f.list(), u"|||"_s);
+        QVERIFY(f.dialog.canSearch());
         f.add(u"a/Doom.wad"_s);
         f.add(u"a/Doom2.wad"_s);
         f.add(u"b/TNT.WAD"_s);
         QCOMPARE(f.boxes(), u"a/Doom.wad|a/Doom2.wad|b/TNT.WAD|"_s);
-        QCOMPARE(f.list(), f.boxes());
         QCOMPARE(f.iwads.of(GameFamily::Tnt), f.path(u"b/TNT.WAD"_s));
-        QVERIFY(!f.dialog.canSearch());
-        QVERIFY(f.dialog.canAdd());
+        QVERIFY(!f.dialog.canSearch() && f.dialog.canAdd());
         QCOMPARE(f.launcher.controls.PwadList.count(), 3);
-        QCOMPARE(f.launcher.controls.PwadList.selected(), 0);
+
+        f.prompts.expectMessage();
+        f.add(u"a/Doom3.wad"_s);
+        QCOMPARE(f.prompts.texts, {u"This does not appear to be a correct Doom Iwad.   "_s});
+        QCOMPARE(f.prompts.titles, {QString()});
+        QCOMPARE(f.prompts.styles, {Msg::Ok + Msg::Information});
+        QCOMPARE(f.list(), f.boxes());
 
         f.add(u"b/Doom2.wad"_s); // takes the place of the first one's path
         QCOMPARE(f.iwads.of(GameFamily::Doom2), f.path(u"b/Doom2.wad"_s));
@@ -62,41 +70,6 @@ private Q_SLOTS:
         QVERIFY(!f.dialog.canAdd());
         f.dialog.activate();
         QVERIFY(!f.dialog.canAdd() && !f.dialog.warningShown());
-        f.dialog.reset();
-        QVERIFY(f.dialog.canAdd());
-    }
-
-    void addRejectsOtherNames()
-    {
-        DialogFixture f;
-        f.add(u"a/Doom.wad"_s);
-        f.prompts.expectMessage();
-        f.add(u"a/Doom3.wad"_s);
-        QCOMPARE(f.prompts.texts, {u"This does not appear to be a correct Doom Iwad.   "_s});
-        QCOMPARE(f.prompts.titles, {QString()});
-        QCOMPARE(f.prompts.styles, {64});
-        QCOMPARE(f.boxes(), u"a/Doom.wad|||"_s);
-        QCOMPARE(f.list(), f.boxes());
-        QCOMPARE(std::ranges::count(f.iwads.Path, QString()), 4);
-    }
-
-    void addAsksInTheRightFolder()
-    {
-        DialogFixture f;
-        f.add({}); // cancelled
-        QCOMPARE(f.list(), u"|||"_s);
-        QVERIFY(f.dialog.canSearch());
-        f.installation.addFolder(u"stored"_s);
-        f.iwads.IwadFolder = f.path(u"stored"_s);
-        f.add(u"chosen/Doom.wad"_s);
-        f.add({});
-        QStringList folders;
-        for (const FileQuestion& question : f.prompts.fileQuestions)
-            folders << question.folder;
-        QCOMPARE(folders, QStringList({f.installation.root(), f.path(u"stored"_s), f.path(u"chosen"_s)}));
-        QCOMPARE(f.iwads.IwadFolder, f.path(u"chosen"_s));
-        QCOMPARE(f.prompts.fileQuestions.first().title, u"Add an IWAD"_s);
-        QCOMPARE(f.prompts.fileQuestions.first().pattern, u"*.wad"_s);
     }
 
     void addThatCannotBeSavedIsReported()
@@ -119,23 +92,12 @@ private Q_SLOTS:
         for (const QString& name : {u"Doom1"_s, u"Doom"_s, u"Doom2"_s, u"Plutonia"_s})
             f.addIwad(u"Data/"_s + name + u".wad"_s);
         f.dialog.search();
+        ShowWindow(f.launcher);
         QCOMPARE(f.boxes(), u"Data/Doom2.wad|Data/Doom.wad|Data/Plutonia.wad|Data/Doom1.wad"_s);
         QVERIFY(f.iwads.of(GameFamily::Tnt).isEmpty());
-        QVERIFY(!f.hasList());
-        QVERIFY(!f.dialog.warningShown());
+        QVERIFY(!f.hasList() && !f.dialog.warningShown());
         QCOMPARE(f.launcher.controls.PwadList.count(), 4);
-        QCOMPARE(f.launcher.controls.PwadList.selected(), 0);
-    }
-
-    void otherViewsStay()
-    {
-        DialogFixture f;
-        f.launcher.settings.ListMode = 0;
-        f.launcher.controls.PwadList.add(u"a game"_s);
-        f.add(u"Doom.wad"_s);
-        f.dialog.search();
-        f.dialog.reset();
-        QCOMPARE(f.launcher.controls.PwadList.entries(), {u"a game"_s});
+        QVERIFY(f.launcher.controls.LaunchButton.enabled);
     }
 
     void resetThenOk()
@@ -143,11 +105,13 @@ private Q_SLOTS:
         DialogFixture f;
         f.add(u"a/Doom.wad"_s);
         f.dialog.reset();
+        ShowWindow(f.launcher);
         QCOMPARE(f.boxes(), u"|||"_s);
         QVERIFY(!f.iwads.anyKnown() && !f.hasList());
         QVERIFY(f.dialog.canSearch() && f.dialog.canAdd());
         const Controls& controls = f.launcher.controls;
         QVERIFY(controls.PwadList.isEmpty() && controls.PwadShowlist.isEmpty() && controls.MapList.isEmpty());
+        QVERIFY(!controls.LaunchButton.enabled);
 
         f.prompts.expectMessage(Msg::ResultNo);
         QVERIFY(!f.dialog.accept());
@@ -161,33 +125,6 @@ private Q_SLOTS:
         QVERIFY(f.dialog.accept());
         QVERIFY(f.launcher.startUp.ShuttingDown);
         QCOMPARE(f.window.calls, QStringList({u"hide"_s, u"endProgram"_s}));
-    }
-
-    void okShowsTheMainWindow()
-    {
-        DialogFixture f;
-        f.add(u"a/Doom.wad"_s);
-        f.launcher.settings.SelectedDoomGame.clear();
-        f.launcher.controls.PwadList.deselect();
-        f.window.shown = true;
-        QVERIFY(f.dialog.accept());
-        QVERIFY(f.window.shown);
-        QCOMPARE(f.launcher.settings.SelectedDoomGame, u"DOOM/ULTIMATE DOOM"_s);
-
-        OptionUdirClick(f.launcher, 0);
-        f.installation.addFolder(u"VYKGames/New/Pwads"_s);
-        QVERIFY(f.dialog.accept()); // the installed games are listed anew
-        QCOMPARE(f.launcher.controls.PwadList.entries(), {u"NEW"_s});
-    }
-
-    void help()
-    {
-        DialogFixture f;
-        f.dialog.openHelp();
-        QVERIFY(f.prompts.opened.isEmpty());
-        f.installation.add(u"VYK_Docs/help/IWAD Location.txt"_s);
-        f.dialog.openHelp();
-        QCOMPARE(f.prompts.opened, {f.path(u"VYK_Docs/help/IWAD Location.txt"_s)});
     }
 };
 

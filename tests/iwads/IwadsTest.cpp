@@ -1,4 +1,8 @@
-#include "iwads/IwadPaths.h"
+// Where the IWADs are found, and the list of those that the player located.
+#include "iwads/IwadSearch.h"
+
+#include "catalogue/GameLists.h"
+#include "platform/Paths.h"
 #include "tests/support/LauncherFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -8,7 +12,7 @@ namespace {
 class IwadFixture : public LauncherFixture
 {
 public:
-    IwadPaths& iwads = launcher.iwads;
+    IwadPaths& iwads = launcher.facts.iwads;
 
     QString search(GameFamily family)
     {
@@ -57,18 +61,6 @@ private Q_SLOTS:
         }
     }
 
-    void aFullListStopsTheSearch()
-    {
-        IwadFixture f;
-        f.installation.add(u"Data/Doom.wad"_s);
-        f.installation.add(u"env/Doom2.wad"_s);
-        f.launcher.environment.doomWadDir = f.path(u"env"_s);
-        f.iwads.ShowIwads[3] = u"/somewhere/Tnt.wad"_s;
-        QStringList found;
-        SearchIwads(f.iwads, found, f.files, f.launcher.paths, f.launcher.environment);
-        QCOMPARE(found, {f.path(u"env/Doom2.wad"_s)});
-    }
-
     void build()
     {
         IwadFixture f;
@@ -91,18 +83,17 @@ private Q_SLOTS:
             QDir::toNativeSeparators(
                 QStringList(f.iwads.ShowIwads.begin(), f.iwads.ShowIwads.end()).join(u"\r\n"_s) + u"\r\n"_s)
                 .toLatin1());
-        QCOMPARE(DoomGameTitles(f.iwads, true),
-                 QStringList({u"Shareware Doom"_s, u"Doom/Ultimate Doom"_s, u"Doom II"_s,
-                              u"The Plutonia Experiment"_s, u"TNT - Final Doom"_s}));
-        QCOMPARE(DoomGameTitles(f.iwads, false).value(1), u"DOOM/ULTIMATE DOOM"_s);
-    }
+        QStringList titles;
+        for (const ListEntry& game : FillDoomGamesList(f.iwads, true))
+            titles << game.text;
+        QCOMPARE(titles, QStringList({u"Doom II"_s, u"Doom/Ultimate Doom"_s, u"Shareware Doom"_s,
+                                      u"The Plutonia Experiment"_s, u"TNT - Final Doom"_s}));
+        QCOMPARE(FillDoomGamesList(f.iwads, false).value(0).text, u"DOOM II"_s);
 
-    void aNodeFileThatStaysIsNoFailure()
-    {
-        IwadFixture f;
-        f.installation.add(u"Data/Doom2.wad"_s);
-        f.installation.add(u"Data/Doom2.VYKgwa"_s);
+        // Nodes that stay are no failure.
         f.files.failOn(u"VYKgwa"_s, FileError::Kind::InUse);
+        f.installation.add(u"Data/Doom2.VYKgwa"_s);
+        f.iwads = {};
         f.build();
         QVERIFY(!f.iwads.ShowIwads[0].isEmpty());
     }
@@ -111,20 +102,11 @@ private Q_SLOTS:
     {
         IwadFixture f;
         f.installation.add(u"Data/Doom2.wad"_s);
-        for (const QString& name :
-             {u"Größe/DOOM2.WAD"_s, u"Größe/tnt.wad"_s, u"Größe/other.wad"_s, u"x/Doom.wad"_s})
+        for (const QString& name : {u"Größe/DOOM2.WAD"_s, u"Größe/tnt.wad"_s, u"x/Doom.wad"_s})
             f.installation.add(name);
-        const QByteArray root = f.installation.root().toLatin1();
-        f.setList(root +
-                  "\\Gr\xF6\xDF"
-                  "e\\doom2.wad\r\n" +
-                  root +
-                  "/gr\xF6\xDF"
-                  "e/TNT.WAD\r\n" +
-                  root +
-                  "/Gr\xF6\xDF"
-                  "e/other.wad\r\n\r\n" +
-                  root + "/x/Doom.wad\r\n");
+        const QString root = f.installation.root();
+        f.setList(ToAnsi(root + u"\\Größe\\doom2.wad\r\n"_s + root + u"/größe/TNT.WAD\r\n"_s + root +
+                         u"/Größe/other.wad\r\n\r\n"_s + root + u"/x/Doom.wad\r\n"_s));
         f.build();
         QCOMPARE(f.iwads.of(GameFamily::Doom2), f.path(u"Data/Doom2.wad"_s)); // found by itself: wins
         QCOMPARE(f.iwads.of(GameFamily::Tnt), f.path(u"Größe/tnt.wad"_s));
@@ -153,33 +135,26 @@ private Q_SLOTS:
         }
     }
 
-    void missingOnlyOutsideTheStandardPlaces()
+    // The engine finds by itself what has the name of one in a standard place, wherever it is known to lie.
+    void whatTheEngineFinds()
     {
         IwadFixture f;
         f.launcher.environment = {f.path(u"dollar"_s), f.path(u"plain"_s)};
-        const auto missing = [&f](const QString& name) {
-            return IsIwadMissing(name, f.files, f.launcher.paths, f.launcher.environment);
+        const auto facts = [&f](const QString& path) {
+            f.iwads = {};
+            f.iwads.of(GameFamily::Doom2) = path;
+            return ReadIwadFacts(f.iwads, f.files, f.launcher.paths,
+                                 f.launcher.environment)[static_cast<size_t>(GameFamily::Doom2)];
         };
+        const QString elsewhere = f.path(u"elsewhere/doom2.wad"_s);
+        QVERIFY(!facts(elsewhere).exists);
         f.installation.add(u"elsewhere/doom2.wad"_s);
-        QVERIFY(missing(f.path(u"elsewhere/doom2.wad"_s)));
+        QVERIFY(facts(elsewhere).exists && !facts(elsewhere).foundByEngine);
         for (const QString& place : {u"plain"_s, u"dollar"_s, u"."_s, u"Data"_s, u"Iwads"_s}) {
             f.installation.add(place + u"/DOOM2.wad"_s);
-            QVERIFY2(!missing(u"doom2.wad"_s) && !missing(u"/x/Doom2"_s), qPrintable(place));
+            QVERIFY2(facts(elsewhere).foundByEngine, qPrintable(place));
             QVERIFY(QFile::remove(f.path(place + u"/DOOM2.wad"_s)));
         }
-    }
-
-    void pathForAName()
-    {
-        IwadFixture f;
-        for (const GameFamilyRow& row : GameFamilies) {
-            const QString name = QString::fromUtf16(row.iwadName);
-            f.iwads.of(row.family) = u"/"_s + name;
-            QCOMPARE(IwadPathFor(f.iwads, name.toUpper(), {}), u"/"_s + name);
-        }
-        QCOMPARE(IwadPathFor(f.iwads, u"doom3.wad"_s, u"before"_s), u"before"_s);
-        QVERIFY(!FamilyOfIwad(u"Doom2.wad.bak"_s) && !FamilyOfIwad(QString()));
-        QCOMPARE(FamilyOfTitle(u"tnt - final doom"_s), GameFamily::Tnt);
     }
 };
 

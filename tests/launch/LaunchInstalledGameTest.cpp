@@ -1,8 +1,10 @@
-#include "launch/LaunchInstalledGame.h"
+// Installed games and zips, from the choice to the engine's command line, or to the message that stops it.
 #include "launch/LaunchButton.h"
+
 #include "platform/DateOrder.h"
 #include "platform/Text.h"
 #include "tests/support/CommercialGame.h"
+#include "tests/support/Packs.h"
 #include "tests/support/ZipMaker.h"
 
 #include <QRegularExpression>
@@ -39,14 +41,9 @@ public:
                              .add("q.ded", "definition")
                              .bytes());
         pickSkill(3);
-        OptionUdirClick(launcher, 0);
+        show(View::InstalledGames);
     }
 
-    void pickFile(const QString& file)
-    {
-        ListBox& shown = launcher.controls.PwadShowlist;
-        shown.click(shown.find(file));
-    }
     QString launchedLine()
     {
         return LaunchSelectedGame(launcher) == LaunchResult::Started ? processes.lastCommandLine()
@@ -58,7 +55,7 @@ public:
     void verifyRefused(const QString& title, const QString& partOfText)
     {
         prompts.expectMessage();
-        QCOMPARE(LaunchInstalledGame(launcher), LaunchResult::Refused);
+        QCOMPARE(LaunchSelectedGame(launcher), LaunchResult::Refused);
         QCOMPARE(prompts.titles.last(), title);
         QVERIFY2(prompts.texts.last().contains(partOfText), qPrintable(prompts.texts.last()));
         QCOMPARE(prompts.styles.last(), 64);
@@ -99,7 +96,7 @@ private Q_SLOTS:
              u"-wp 05 "_s},
             {"zipped",
              [](InstalledGame& game) {
-                 OptionUdirClick(game.launcher, 2);
+                 game.show(View::ZipLibrary);
                  game.pickMap(u"MAP02"_s);
              },
              u"-f \"%1/VYKLaunch/Zips/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/extra.wad\" "
@@ -107,14 +104,8 @@ private Q_SLOTS:
              u"-f \"%1/VYKLaunch/Zips/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/extra.wad\" "
              "-deh \"%1/VYKLaunch/Zips/p.deh\" -d \"%1/VYKLaunch/Zips/q.ded\" "_s,
              u"-wp 02 "_s},
-            {"in no game's folder",
-             [](InstalledGame& game) {
-                 game.selectGame(u"MANUAL"_s);
-                 game.launcher.selection.SelectedGameFile = game.path(u"Loose/x y.wad"_s);
-             },
-             u"-f \"%1/Loose/x y.wad\" "_s, u"-f \"%1/Loose/x y.wad\" "_s, u"-wp 01 "_s},
         };
-        const QString options = u"-np -nht -3d -ch 128 -upm -ro -ct 9 -cmd \"rend-light 1\" \"rend-smoke 1\" "
+        const QString options = u"-np -nht -3d -ch 128 -ro -ct 9 -cmd \"rend-light 1\" \"rend-smoke 0\" "
                                 "\"audio-ricoh 4\" -sk 3 "_s;
         for (const auto& row : rows) {
             for (const bool known : {true, false}) {
@@ -123,7 +114,7 @@ private Q_SLOTS:
                 if (!known) {
                     game.addWad(u"Elsewhere/Doom2.wad"_s, {u"MAP01"_s});
                     QVERIFY(QFile::remove(game.path(u"Iwads/Doom2.wad"_s)));
-                    game.launcher.iwads.of(GameFamily::Doom2) = game.path(u"Elsewhere/Doom2.wad"_s);
+                    game.launcher.facts.iwads.of(GameFamily::Doom2) = game.path(u"Elsewhere/Doom2.wad"_s);
                     iwad = u"-iwad \"%1/Elsewhere/Doom2.wad\" "_s;
                 }
                 row.choose(game);
@@ -145,7 +136,7 @@ private Q_SLOTS:
     void aZipIsOpenedAgain()
     {
         InstalledGame game;
-        OptionUdirClick(game.launcher, 2);
+        game.show(View::ZipLibrary);
         game.pickMap(u"MAP02"_s);
         QVERIFY(QFile::remove(game.path(u"VYKLaunch/Zips/Pack \u00e9.wad"_s)));
         QVERIFY(game.launchedLine().endsWith(u"-wp 02 "_s));
@@ -188,27 +179,34 @@ private Q_SLOTS:
         game.checkPwad("Check2\r\nmain.WAD\r\n");
         game.verifyRefused(u" Missing Final Doom Iwad "_s, u"one of the Final Doom Iwads"_s);
         game.addWad(u"Data/Plutonia.wad"_s, {u"MAP01"_s});
-        game.launcher.iwads.of(GameFamily::Plutonia) = game.path(u"Data/Plutonia.wad"_s);
+        game.launcher.facts.iwads.of(GameFamily::Plutonia) = game.path(u"Data/Plutonia.wad"_s);
         QVERIFY(game.launchedLine().startsWith(u"Bin\\Keldrax -Plutonia -udir "_s));
 
         game.checkPwad("Check7,Main.wad\r\n");
         const QString basic = game.launchedLine();
         QVERIFY2(basic.contains(u" -nc -nws "_s) && !basic.contains(u"-cmd"_s), qPrintable(basic));
-        QVERIFY(!game.launcher.controls.chkMain[0].ticked() && !game.launcher.settings.BasicDoom);
+        QVERIFY(!game.launcher.settings.BasicDoom);
 
         game.checkPwad("Check3,Main.wad\r\n");
         QVERIFY(game.launchedLine().contains(u" -boom "_s));
     }
 
+    void theChosenMapDecidesTheIwad()
+    {
+        InstalledGame game;
+        game.addWad(u"VYKGames/Both/Pwads/both.wad"_s, {u"MAP01"_s, u"E1M1"_s});
+        game.load();
+        game.selectGame(u"BOTH"_s);
+        game.pickMap(u"E1M1"_s);
+        QVERIFY(game.launchedLine().startsWith(u"Bin\\Keldrax -Doom -udir \"Both\" "_s));
+    }
+
     void aMissingIwadIsNamedByTheMaps()
     {
         InstalledGame game;
-        game.launcher.iwads.Path.fill({});
+        game.launcher.facts.iwads.Path.fill({});
         game.selectGame(u"MANUAL"_s);
         game.verifyRefused(u" Iwad not found for current map"_s, u"requires the Doom2.wad before"_s);
-        game.pickSkill(0); // no map is chosen
-        game.verifyRefused(u" Iwad not found for current map"_s, u"requires the Doom2.wad before"_s);
-        game.pickSkill(3);
         game.selectGame(u"AUTO GAME"_s);
         game.pickFile(u"first.wad"_s);
         game.verifyRefused(u" Iwad not found for current map"_s, u"requires the Doom.wad before"_s);
@@ -218,13 +216,13 @@ private Q_SLOTS:
     {
         InstalledGame game;
         game.addWad(u"VYKGames/Blackwater Keep/Pwads/blakeep.wad"_s, {u"MAP01"_s});
-        OptionUdirClick(game.launcher, 0);
+        game.show(View::InstalledGames);
         game.selectGame(u"BLACKWATER KEEP"_s);
         game.verifyRefused(u" Map error - updated map required"_s, u"Components of this map"_s);
         game.installation.addFolder(u"Md2/blakeep"_s);
         game.installation.addFolder(u"Data/custom.hires/blakeep"_s);
         game.verifyRefused(u" Model packs required"_s, u"require the model packs"_s);
-        game.launcher.modelPacks.ModelPacksMissing = false;
+        Packs::add(game.installation, Packs::Models);
         QFile wad(game.path(u"VYKGames/Blackwater Keep/Pwads/blakeep.wad"_s));
         QVERIFY(wad.open(QIODevice::ReadWrite));
         const QDate first = IsDayBeforeMonth() ? QDate(2020, 8, 10) : QDate(2020, 10, 8);
@@ -232,19 +230,17 @@ private Q_SLOTS:
         game.verifyRefused(u" Map update required"_s, u"an older version"_s);
         QVERIFY(wad.setFileTime(QDateTime(first, {10, 10, 10}), QFileDevice::FileModificationTime));
         QVERIFY(game.launchedLine().contains(u" -usb "_s));
-    }
 
-    void theAddOnsLevelNeedsTheAddOn()
-    {
-        InstalledGame game;
-        game.addWad(u"VYKGames/Vex/Pwads/VEXLEV.WAD"_s, {u"MAP01"_s});
-        OptionUdirClick(game.launcher, 0);
-        game.selectGame(u"VEX"_s);
-        game.verifyRefused(u" VEX Addon required"_s, u"latest version of the Keldrax VEX"_s);
-        game.installation.add(u"Data/VYK_addon/Vexlev/vexlev_addon.wad"_s, "new");
-        game.verifyRefused(u" Model packs required"_s, u"require the model packs"_s);
-        game.launcher.modelPacks.ModelPacksMissing = false;
-        QVERIFY(game.launchedLine().contains(u" -usb "_s)); // as a scripted map does
+        // So does the add-on's level, which needs the add-on besides.
+        InstalledGame vex;
+        vex.addWad(u"VYKGames/Vex/Pwads/VEXLEV.WAD"_s, {u"MAP01"_s});
+        vex.show(View::InstalledGames);
+        vex.selectGame(u"VEX"_s);
+        vex.verifyRefused(u" VEX Addon required"_s, u"latest version of the Keldrax VEX"_s);
+        vex.installation.add(u"Data/VYK_addon/Vexlev/vexlev_addon.wad"_s, "new");
+        vex.verifyRefused(u" Model packs required"_s, u"require the model packs"_s);
+        Packs::add(vex.installation, Packs::Models);
+        QVERIFY(vex.launchedLine().contains(u" -usb "_s));
     }
 
     void aNameWithAQuoteIsRefused()
@@ -253,7 +249,7 @@ private Q_SLOTS:
             QSKIP("no name holds one here");
         InstalledGame game;
         game.addWad(u"VYKGames/A \"quoted\" game/Pwads/x.wad"_s, {u"MAP01"_s});
-        OptionUdirClick(game.launcher, 0);
+        game.show(View::InstalledGames);
         game.selectGame(u"A \"QUOTED\" GAME"_s);
         game.verifyRefused(u" Launch error"_s, u"double quote"_s);
     }

@@ -2,6 +2,7 @@
 // the definition files that the player adds.
 #include "options/CleanUpModels.h"
 #include "options/CustomDefs.h"
+#include "options/PackFacts.h"
 #include "platform/Paths.h"
 #include "tests/support/LauncherFixture.h"
 
@@ -37,7 +38,7 @@ public:
              {md2 + u"/Mine/a"_s, md2 + u"/Flames"_s, md2 + u"/readme.txt"_s, u"Defs/Model/Weapons.ded/a"_s,
               u"Defs/Model/Mine.ded"_s, u"Defs/Custom/Mine.ded"_s, u"Elsewhere/Imp/a"_s, u"Elsewhere/a"_s})
             installation.add(file, "own");
-        launcher.modelPacks = FindModelPacks(files, launcher.paths);
+        DetectModelPacks(launcher);
         own = installation.tree().filter(
             QRegularExpression(u"^Bin/|/Mine|/Flames$|readme|Model/Weapons\\.ded/|^Elsewhere/"_s));
     }
@@ -58,17 +59,6 @@ public:
     QStringList own;
 };
 
-// Ticks and unticks "Don't ask this in the future", then cancels.
-struct Undecided : QueuedPrompts
-{
-    bool confirmModelCleanup(const std::function<void(bool)>& neverAgain) override
-    {
-        neverAgain(true);
-        neverAgain(false);
-        return false;
-    }
-};
-
 const QString advice = u"Important: Close down the launcher before re-installing any model packs.    "_s;
 
 } // namespace
@@ -87,10 +77,8 @@ private Q_SLOTS:
             packs.prompts.expectModelCleanup(true);
             packs.prompts.expectConfirmation(true);
             packs.prompts.expectMessage();
-            packs.launcher.controls.ButPurge[2].clicked();
-            // hudweapons with its folder, Items, Lod and 3, Monsters and 3 (2 where their case does not
-            // count), Tovrens and Gore, Kelspack, and two folders of definitions; 10 files in them, 2 skins
-            // and 6 definitions of 5 bytes each
+            packs.launcher.controls.ButPurge[Purge::Models].clicked();
+            // Two of the folders are one where case does not count.
             QCOMPARE(
                 packs.prompts.cleanupSummaries,
                 QStringList{u"To be removed: %1 folders and 18 files, 90 bytes"_s.arg(OnWindows ? 15 : 16)});
@@ -99,7 +87,7 @@ private Q_SLOTS:
             QCOMPARE(packs.prompts.titles, QStringList{u" Cleanup Completed"_s});
             QCOMPARE(packs.prompts.texts, QStringList{advice});
             QCOMPARE(packs.prompts.styles, QList<int>{Msg::Information});
-            const ModelPacks& found = packs.launcher.modelPacks;
+            const ModelPacks& found = packs.launcher.facts.modelPacks;
             QVERIFY(found.ModelPacksMissing && !found.ModelPack2Installed && !found.KelspackInstalled);
         }
     }
@@ -108,7 +96,7 @@ private Q_SLOTS:
     {
         Packs packs;
         const qsizetype before = packs.left().size();
-        Button& button = packs.launcher.controls.AuxButton[8];
+        Button& button = packs.launcher.controls.AuxButton[Tool::CleanUpModels];
         const QString confirm = u"VYKLaunch/Data/confirm.vyk"_s;
         packs.prompts.expectModelCleanup(false);
         button.clicked();
@@ -120,10 +108,6 @@ private Q_SLOTS:
         button.clicked();
         QCOMPARE(packs.prompts.titles, QStringList{u" Access error "_s});
         packs.files.failOn({}, FileError::Kind::Other);
-        Undecided undecided;
-        undecided.expectModelCleanup(true);
-        Launcher other(packs.files, packs.processes, undecided, packs.window, packs.installation.root());
-        CleanUpModels(other);
         QVERIFY(!packs.installation.exists(confirm));
 
         packs.prompts.expectModelCleanup(true);
@@ -136,55 +120,6 @@ private Q_SLOTS:
         packs.prompts.expectMessage();
         button.clicked();
         QCOMPARE(packs.left(), QStringList{confirm});
-        packs.prompts.expectModelCleanup(false);
-        button.clicked();
-        QCOMPARE(packs.prompts.cleanupSummaries.last(), u"To be removed: 0 folders and 0 files, 0 bytes"_s);
-    }
-
-    // What one pack takes with it, and what stays for the others or because something cannot be removed.
-    void parts()
-    {
-        const struct
-        {
-            ModelCleanup cleanup;
-            QString stuck;
-            QString gone, kept; // separated by blanks
-        } rows[] = {
-            {{true, false, false},
-             {},
-             u"Md2/Items Md2/Lod Md2/Monsters Defs/Model/ITEMS.DED"_s,
-             u"Md2/Shiny.png Md2/Tovrens Md2/Kelspack Defs/Model/Tovrens"_s},
-            {{false, true, false},
-             {},
-             u"Md2/Tovrens Md2/Lod Defs/Model/Tovrens"_s,
-             u"Md2/Monsters Md2/metallic.png Defs/Model/Lod.ded"_s},
-            {{false, false, true},
-             {},
-             u"Md2/Kelspack Defs/Model/Kelspack"_s,
-             u"Md2/Lod/Common Md2/Shiny.png"_s},
-            {{true, false, true}, u"Lod/Enhanced"_s, u"Md2/Lod/Common Md2/Monsters"_s, u"Md2/Lod/Enhanced"_s},
-            {everything, u"Monsters/soldiers2"_s, u"Md2/Monsters/Imp Md2/Shiny.png"_s,
-             u"Md2/Monsters/Soldiers2/a"_s},
-            {everything, u"Md2/Kelspack"_s, u"Md2/Tovrens Defs/Model/Kelspack"_s,
-             u"Md2/Kelspack Md2/Shiny.png"_s},
-        };
-        for (const auto& row : rows) {
-            Packs packs;
-            for (const ModelPackItem& item :
-                 FindModelPackItems(packs.files, packs.launcher.paths, row.cleanup))
-                QVERIFY(!row.stuck.isEmpty() ||
-                        !row.kept.contains(item.path.mid(packs.installation.root().size() + 1)));
-            packs.files.failOn(row.stuck, FileError::Kind::InUse);
-            const QStringList left = DeleteModelPacks(packs.launcher, row.cleanup);
-            QCOMPARE(left.isEmpty(), row.stuck.isEmpty());
-            for (const QString& path : left)
-                QVERIFY2(path.contains(row.stuck, Qt::CaseInsensitive), qPrintable(path));
-            for (const QString& path : row.gone.split(u' '))
-                QVERIFY2(!packs.installation.exists(path), qPrintable(path));
-            for (const QString& path : row.kept.split(u' '))
-                QVERIFY2(packs.installation.exists(path), qPrintable(path));
-            QVERIFY(packs.keepsOwn());
-        }
     }
 
     // A link goes, what it leads to stays, whether it stands for a pack's folder or for one above it.
@@ -257,14 +192,10 @@ private Q_SLOTS:
         for (const QString& file : {u"gwa/a.gwa"_s, u"gwa/b.gwa"_s, u"gwa/Sub/c.gwa"_s, u"VykanFiles/d"_s})
             f.installation.add(file);
         QVERIFY(QFile::setPermissions(f.path(u"gwa/b.gwa"_s), QFile::ReadOwner));
-        Button& button = f.launcher.controls.ButPurge[1];
+        Button& button = f.launcher.controls.ButPurge[Purge::Nodes];
         f.prompts.expectMessage(Msg::ResultNo);
         button.clicked();
         QCOMPARE(f.prompts.titles, QStringList{u" Delete all saved nodes"_s});
-        QCOMPARE(f.prompts.texts,
-                 QStringList{u"This is a quick method of removing all nodes that have      \r\n"
-                             "    previously been built with maps you have played.       \r\n\r\n"
-                             "                  Do you wish to continue?"_s});
         QVERIFY(f.installation.exists(u"gwa/a.gwa"_s));
 
         f.files.failOn(u"a.gwa"_s, FileError::Kind::InUse);
@@ -278,37 +209,6 @@ private Q_SLOTS:
         button.clicked();
         QVERIFY(f.disk.files(f.path(u"gwa"_s)).isEmpty() && f.disk.files(f.path(u"VYKAnFiles"_s)).isEmpty());
         QVERIFY(f.installation.exists(u"gwa/Sub/c.gwa"_s) && f.installation.exists(u"VykanFiles"_s));
-    }
-
-    void customDefinitions()
-    {
-        LauncherFixture f;
-        for (const QString& file : {u"mine/x.ded"_s, u"mine/Sub/FullPack.DED"_s, u"mine/text.txt"_s,
-                                    u"mine/.ded"_s, u"Defs/CUSTOM/My.Own.ded"_s})
-            f.installation.add(file);
-        if (!OnWindows)
-            f.installation.add(u"mine/a\"b.ded"_s);
-        f.installation.addFolder(u"mine/folder.ded"_s);
-        ListBox list;
-        const auto choose = [&](const QString& path) {
-            f.prompts.expectFile(path);
-            ChooseCustomDefs(f.launcher, list);
-            return list.entries();
-        };
-        for (const QString& odd :
-             {QString(), u" "_s, u"x.ded"_s, u"\\"_s, f.path(u"mine/text.txt"_s), f.path(u"mine/.ded"_s),
-              f.path(u"mine/a\"b.ded"_s), f.path(u"mine/folder.ded"_s), f.path(u"none.ded"_s),
-              f.path(u"mine/x.ded"_s) + QChar::Null})
-            QVERIFY2(choose(odd).isEmpty(), qPrintable(odd));
-        f.prompts.expectMessage();
-        QVERIFY(choose(f.path(u"mine/Sub/FullPack.DED"_s)).isEmpty());
-        QCOMPARE(f.prompts.titles, QStringList{u" Configuration warning"_s});
-        QCOMPARE(choose(f.path(u"mine/x.ded"_s)), QStringList{f.nativePath(u"mine/x.ded"_s)});
-        f.files.failOn(u"Custom"_s, FileError::Kind::Other); // the folder is there all the same
-        QCOMPARE(choose(f.path(u"Defs/CUSTOM/My.Own.ded"_s)).last(), u"My.Own"_s);
-        QCOMPARE(list.selected(), 1);
-        QCOMPARE(f.prompts.fileQuestions.last().folder, f.path(u"Defs/Custom"_s));
-        QVERIFY(IsKelspackDef(u"KELSPACK.wad"_s) && !IsKelspackDef(u"kelspack.ded"_s));
     }
 };
 

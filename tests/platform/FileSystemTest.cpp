@@ -1,10 +1,9 @@
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
-#include "tests/support/FailingFileSystem.h"
 #include "tests/support/TemporaryInstallation.h"
 
 #include <QFile>
-#include <QFileInfo>
+#include <QRandomGenerator>
 #include <QTest>
 #include <functional>
 
@@ -15,168 +14,110 @@ class FileSystemTest : public QObject
 {
     Q_OBJECT
 
-    static bool fails(Kind kind, const std::function<void()>& call)
-    {
-        try {
-            call();
-        } catch (const FileError& error) {
-            return error.kind() == kind;
-        }
-        return false;
-    }
+    std::unique_ptr<TemporaryInstallation> m_disk;
+    DiskFileSystem m_files;
+
+    QString at(const QString& path) const { return m_disk->path(path); }
 
 private Q_SLOTS:
+    void init() { m_disk = std::make_unique<TemporaryInstallation>(); }
+
     void pathsAsTexts()
     {
-        QCOMPARE(FileNameOf(u"c:\\a/Doom2.wad"_s), u"Doom2.wad"_s);
-        QCOMPARE(FileNameOf(u"/games/Hell/"_s), u"Hell"_s);
-        QCOMPARE(FileNameOf(u"/"_s), QString());
-        QCOMPARE(BaseNameOf(u"a.d/b.c.wad"_s), u"b.c"_s);
-        QCOMPARE(BaseNameOf(u"a.d/b"_s), u"b"_s);
-        QCOMPARE(FolderOf(u"a\\b\\c/"_s), u"a/b"_s);
-        QCOMPARE(FolderOf(u"/a"_s), u"/"_s);
-        QCOMPARE(FolderOf(u"/"_s), QString());
-        QCOMPARE(FolderOf(u"a"_s), QString());
+        QCOMPARE(FolderOf(u"c:\\a\\b/"_s) + FolderOf(u"/a"_s) + FolderOf(u"a"_s) + FolderOf(u"/"_s),
+                 u"c:/a/"_s);
+        QCOMPARE(BaseNameOf(u"a.d/b"_s) + BaseNameOf(u"a.d/c.d.wad"_s), u"bc.d"_s);
+        QCOMPARE(FileNameOf(u"c:\\a/b.wad"_s) + FileNameOf(u"/c/"_s) + FileNameOf(u"/"_s), u"b.wadc"_s);
     }
 
-    void aWrongCaseFindsTheFile()
+    void anySpellingFindsTheFile()
     {
-        TemporaryInstallation disk;
-        disk.add(u"VYKGames/Hölle/Map.WAD"_s, "map");
-        const DiskFileSystem files;
-        const QString map = disk.path(u"VYKGames/Hölle/Map.WAD"_s);
-        QCOMPARE(files.actualPath(disk.path(u"vykgames\\HÖLLE\\map.wad"_s)), map);
-        QCOMPARE(files.actualPath(map), map);
-        QCOMPARE(files.actualPath(disk.path(u"vykGAMES/../vykgames/hölle/"_s)),
-                 disk.path(u"VYKGames/../VYKGames/Hölle"_s));
-        QCOMPARE(files.read(disk.path(u"VYKGames/hölle/map.wad"_s), 2), "ma"_ba);
-        QVERIFY(files.modified(disk.path(u"vykgames/hölle/map.wad"_s)).isValid());
-        QCOMPARE(files.files(disk.path(u"Vykgames/hölle"_s)), QStringList{u"Map.WAD"_s});
+        const QString map = u"VYKGames/Hölle/Map.WAD"_s;
+        m_disk->add(map, "map");
+        QRandomGenerator random(1);
+        for (int round = 0; round < 100; ++round) {
+            QString spelled = map;
+            for (QChar& c : spelled)
+                c = random.bounded(2) ? c.toLower() : c == u'/' && random.bounded(2) ? u'\\' : c.toUpper();
+            QCOMPARE(m_files.actualPath(at(spelled)), at(map));
+        }
+        QCOMPARE(m_files.actualPath(at(u"vykGAMES/../vykgames/hölle/"_s)),
+                 at(u"VYKGames/../VYKGames/Hölle"_s));
 
         if (OnWindows)
             return;
         // The exact spelling wins, then the first in ascending order.
-        disk.add(u"data/one"_s);
-        disk.add(u"DATA/two"_s);
-        QVERIFY(files.fileExists(disk.path(u"data/ONE"_s)));
-        QVERIFY(files.fileExists(disk.path(u"Data/TWO"_s)));
-        QVERIFY(!files.fileExists(disk.path(u"Data/one"_s)));
+        m_disk->add(u"data/one"_s);
+        m_disk->add(u"DATA/two"_s);
+        QVERIFY(m_files.fileExists(at(u"data/ONE"_s)) && !m_files.fileExists(at(u"Data/one"_s)));
         for (const QString& name : {u"ab"_s, u"cd"_s, u"ef"_s, u"gh"_s, u"ij"_s}) {
-            const QString capital = name[0].toUpper() + name.sliced(1);
-            for (const QString& spelling : {name, name.toUpper(), capital})
-                disk.addFolder(spelling);
-            const QString wanted = name[0] + name.sliced(1).toUpper();
-            QCOMPARE(files.actualPath(disk.path(wanted)), disk.path(name.toUpper()));
+            m_disk->addFolder(name);
+            m_disk->addFolder(name.toUpper());
+            QCOMPARE(m_files.actualPath(at(name[0] + name.sliced(1).toUpper())), at(name.toUpper()));
         }
     }
 
-    void whatIsNotThereIsNotFound()
+    void changesKeepTheSpelling()
     {
-        TemporaryInstallation disk;
-        disk.add(u"file"_s, "x");
-        disk.addFolder(u"folder"_s);
-        const DiskFileSystem files;
-        for (const QString& path : {QString(), disk.path(u"other"_s), disk.path(u"file/below"_s),
-                                    disk.path(u"file"_s) + QChar::Null, QString(100'000, u'/') + u"x/y"_s}) {
-            QCOMPARE(files.actualPath(path), QString());
-            QVERIFY(!files.fileExists(path) && !files.folderExists(path));
-            QVERIFY(files.files(path).isEmpty() && files.folders(path).isEmpty());
-            QVERIFY(!files.modified(path).isValid());
-        }
-        QVERIFY(!files.folderExists(disk.path(u"file"_s)));
-        QVERIFY(!files.fileExists(disk.path(u"folder"_s)));
-        QVERIFY(fails(Kind::NotFound, [&] { files.read(disk.path(u"other"_s), 1); }));
-        QVERIFY(fails(Kind::Other, [&] { files.read(disk.path(u"folder"_s), 1); }));
-        QCOMPARE(files.read(disk.path(u"file"_s), -1), QByteArray());
-    }
-
-    void listsAscendWithoutRegardToCase()
-    {
-        TemporaryInstallation disk;
-        QStringList ascending{u".hidden"_s, u"a"_s, u"B"_s, u"b"_s, u"C"_s};
-        if (OnWindows)
-            ascending.removeOne(u"B"_s);
-        for (const QString& name : ascending)
-            disk.add(name);
-        for (const QString& name : {u"folder/x"_s, u"E/x"_s})
-            disk.add(name);
-        const DiskFileSystem files;
-        QCOMPARE(files.files(disk.root()), ascending);
-        QCOMPARE(files.folders(disk.root()), (QStringList{u"E"_s, u"folder"_s}));
-    }
-
-    void writingReplacesTheFileUnderItsOwnSpelling()
-    {
-        TemporaryInstallation disk;
-        disk.add(u"Data/Config.vyk"_s, "old");
-        DiskFileSystem files;
-        files.write(disk.path(u"data/config.vyk"_s), "new");
-        files.write(disk.path(u"DATA/fresh"_s), "\0\n"_ba);
+        m_disk->add(u"Data/Config.vyk"_s, "old");
         const QByteArray large(3'000'001, 'x');
-        files.write(disk.path(u"large"_s), large);
-        files.copy(disk.path(u"LARGE"_s), disk.path(u"Data/CONFIG.VYK"_s));
-        files.copy(disk.path(u"data/Fresh"_s), disk.path(u"copy"_s));
-        QCOMPARE(disk.tree(), (QStringList{u"Data/Config.vyk"_s, u"Data/fresh"_s, u"copy"_s, u"large"_s}));
-        QVERIFY(disk.read(u"Data/Config.vyk"_s) == large);
-        QCOMPARE(disk.read(u"copy"_s), "\0\n"_ba);
+        m_files.write(at(u"DATA/.fresh"_s), "\0\n"_ba);
+        m_files.write(at(u"large"_s), large);
+        m_files.copy(at(u"LARGE"_s), at(u"Data/CONFIG.VYK"_s));
+        m_files.copy(at(u"data/.Fresh"_s), at(u"copy"_s));
+        m_files.move(at(u"COPY"_s), at(u"Copy"_s));
+        QCOMPARE(m_disk->tree().join(u' '), u"Copy Data/.fresh Data/Config.vyk large"_s);
+        QVERIFY(m_disk->read(u"Data/Config.vyk"_s) == large);
+        QCOMPARE(m_disk->read(u"Copy"_s), "\0\n"_ba);
+
+        m_files.createFolder(at(u"data\\New\\deep/"_s));
+        m_files.createFolder(at(u"DATA/new"_s));
+        m_files.createFolder(at(u"data/aged"_s));
+        m_files.removeFolder(at(u"data/new/DEEP"_s));
+        // Lists ascend without regard to case.
+        const auto listed = [&](const QString& folder) {
+            return (m_files.folders(at(folder)) + m_files.files(at(folder))).join(u' ');
+        };
+        QCOMPARE(listed(u"."_s) + u'|' + listed(u"DATA"_s), u"Data Copy large|aged New .fresh Config.vyk"_s);
+        QVERIFY(listed(u"Data/New"_s).isEmpty());
     }
 
-    void refusedWritesLeaveTheOldFile()
+    void whatIsRefusedChangesNothing()
     {
-        TemporaryInstallation disk;
-        disk.add(u"locked"_s, "old");
-        disk.add(u"new"_s, "new");
-        disk.addFolder(u"folder"_s);
-        const QString locked = disk.path(u"Locked"_s);
-        QVERIFY(QFile::setPermissions(disk.path(u"locked"_s), QFile::ReadOwner));
-        DiskFileSystem files;
-        QVERIFY(fails(Kind::PermissionDenied, [&] { files.write(locked, "new"); }));
-        QVERIFY(fails(Kind::PermissionDenied, [&] { files.copy(disk.path(u"new"_s), locked); }));
-        QVERIFY(fails(Kind::Other, [&] { files.write(disk.path(u"FOLDER"_s), "new"); }));
-        QVERIFY(fails(Kind::NotFound, [&] { files.write(disk.path(u"none/x"_s), "new"); }));
-        QVERIFY(fails(Kind::NotFound, [&] { files.copy(disk.path(u"none"_s), disk.path(u"new"_s)); }));
-        QVERIFY(fails(Kind::Other, [&] { files.write({}, "new"); }));
-        QVERIFY(fails(Kind::Other, [&] { files.write(disk.path(u"a"_s) + QChar::Null, "new"); }));
-        QVERIFY_THROWS_EXCEPTION(FileError, files.write(disk.path(QString(300, u'n')), "new"));
-        QCOMPARE(disk.tree(), (QStringList{u"locked"_s, u"new"_s})); // no temporary file either
-        QCOMPARE(disk.read(u"locked"_s), "old"_ba);
-        QCOMPARE(disk.read(u"new"_s), "new"_ba);
-
-        files.remove(locked);
-        files.remove(locked);
-        QVERIFY(!disk.exists(u"locked"_s));
-    }
-
-    void foldersComeAndGo()
-    {
-        TemporaryInstallation disk;
-        disk.add(u"Games/file"_s);
-        DiskFileSystem files;
-        files.createFolder(disk.path(u"games\\New\\deep/"_s));
-        files.createFolder(disk.path(u"GAMES/new"_s));
-        QVERIFY(disk.exists(u"Games/New/deep"_s));
-        QCOMPARE(files.folders(disk.root()), QStringList{u"Games"_s});
-        QVERIFY(fails(Kind::Exists, [&] { files.createFolder(disk.path(u"games/File"_s)); }));
-        QVERIFY(fails(Kind::Exists, [&] { files.removeFolder(disk.path(u"games"_s)); }));
-        QVERIFY(fails(Kind::NotFound, [&] { files.removeFolder(disk.path(u"none"_s)); }));
-        QVERIFY(fails(Kind::Other, [&] { files.remove(disk.path(u"games/new"_s)); }));
-        files.removeFolder(disk.path(u"games/new/DEEP"_s));
-        QVERIFY(disk.exists(u"Games/New"_s) && !disk.exists(u"Games/New/deep"_s));
-    }
-
-    void theFailingDoubleFailsWhereItIsTold()
-    {
-        TemporaryInstallation disk;
-        DiskFileSystem real;
-        FailingFileSystem files(real);
-        files.failAt(2, Kind::InUse);
-        files.write(disk.path(u"a"_s), "a");
-        QVERIFY(fails(Kind::InUse, [&] { files.copy(disk.path(u"a"_s), disk.path(u"b"_s)); }));
-        files.createFolder(disk.path(u"Folder"_s));
-        QCOMPARE(files.calls(), 3);
-        files.failOn(u"FOLDER"_s, Kind::PermissionDenied);
-        QVERIFY(fails(Kind::PermissionDenied, [&] { files.removeFolder(disk.path(u"Folder"_s)); }));
-        QCOMPARE(disk.tree(), QStringList{u"a"_s});
+        m_disk->add(u"locked"_s, "old");
+        m_disk->add(u"new"_s, "new");
+        m_disk->add(u"Games/file"_s);
+        const QString locked = at(u"Locked"_s), other = at(u"new"_s);
+        const QString none = at(u"none"_s), games = at(u"games"_s);
+        QVERIFY(QFile::setPermissions(at(u"locked"_s), QFile::ReadOwner));
+        const std::pair<Kind, std::function<void()>> refused[] = {
+            {Kind::PermissionDenied, [&] { m_files.write(locked, "x"); }},
+            {Kind::PermissionDenied, [&] { m_files.copy(other, locked); }},
+            {Kind::PermissionDenied, [&] { m_files.move(other, locked); }},
+            {Kind::Other, [&] { m_files.write(games, "x"); }},
+            {Kind::Other, [&] { m_files.write(none + QChar::Null, "x"); }},
+            {Kind::NotFound, [&] { m_files.write(none + u"/x"_s, "x"); }},
+            {Kind::NotFound, [&] { m_files.copy(none, other); }},
+            {Kind::Other, [&] { m_files.removeTree(other); }},
+            {Kind::Other, [&] { m_files.remove(games); }},
+            {Kind::Exists, [&] { m_files.createFolder(games + u"/File"_s); }},
+            {Kind::Exists, [&] { m_files.removeFolder(games); }},
+            {Kind::Exists, [&] { m_files.move(other, games); }},
+        };
+        for (const auto& [kind, change] : refused) {
+            try {
+                change();
+                QFAIL("was not refused");
+            } catch (const FileError& error) {
+                QVERIFY2(error.kind() == kind, error.what());
+            }
+            QCOMPARE(m_disk->tree().join(u' '), u"Games/file locked new"_s); // no temporary file
+            QCOMPARE(m_disk->read(u"locked"_s) + m_disk->read(u"new"_s), "oldnew");
+        }
+        QVERIFY_THROWS_EXCEPTION(FileError, m_files.write(at(QString(300, u'n')), "x"));
+        m_files.remove(locked);
+        m_files.remove(locked); // is no failure
+        QVERIFY(!m_disk->exists(u"locked"_s));
     }
 };
 

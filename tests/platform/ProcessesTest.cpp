@@ -11,22 +11,13 @@ class ProcessesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void commandLines_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("blanks") << u"  a\t b  "_s << QStringList{u"a"_s, u"b"_s};
-        QTest::newRow("quotes") << u"\"a b\"c d\" \"e"_s << QStringList{u"a bc"_s, u"d e"_s};
-        QTest::newRow("nothing escapes") << u"\"Dir\\\" a\\b\\"_s << QStringList{u"Dir\\"_s, u"a\\b\\"_s};
-        QTest::newRow("empty") << u"a \"\" b"_s << QStringList{u"a"_s, u""_s, u"b"_s};
-        QTest::newRow("open to the end") << u"a \"b c "_s << QStringList{u"a"_s, u"b c "_s};
-        QTest::newRow("nothing") << u" \t"_s << QStringList{};
-    }
     void commandLines()
     {
-        QFETCH(QString, line);
-        QFETCH(QStringList, arguments);
-        QCOMPARE(SplitCommandLine(line), arguments);
+        const auto split = [](const QString& line) { return SplitCommandLine(line).join(u'|'); };
+        QCOMPARE(split(u"  a\t b \"c d\"e\" \"f  "_s), u"a|b|c de f"_s);
+        QCOMPARE(split(u"\"Dir\\\" a\\b\\"_s), u"Dir\\|a\\b\\"_s); // nothing escapes
+        QCOMPARE(split(u"a \"\" \"b c "_s), u"a||b c "_s);         // open to the end
+        QCOMPARE(SplitCommandLine(u" \t"_s), QStringList());
     }
 
     // What a launch writes on the line is what the program gets.

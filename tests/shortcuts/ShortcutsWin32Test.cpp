@@ -1,5 +1,4 @@
-#include "catalogue/GameLists.h"
-#include "launch/LaunchButton.h"
+#include "launch/LaunchPlan.h"
 #include "shortcuts/MakeShortcut.h"
 #include "tests/support/CommercialGame.h"
 
@@ -76,14 +75,14 @@ private Q_SLOTS:
         fixture.addWad(base + u"VYKGames/"_s + game + u"/Pwads/main file.wad"_s, {u"MAP03"_s});
         fixture.installation.addBuilt(base + u"Bin/Keldrax"_s, RECORDER_PROGRAM);
         fixture.installation.addBuilt(base + u"Bin/VYKgFiles"_s, VYKGFILES_PROGRAM);
-        Launcher launcher(fixture.files, fixture.processes, fixture.prompts, fixture.window,
-                          fixture.path(root));
+        ConnectedLauncher launcher(fixture.files, fixture.processes, fixture.prompts, fixture.window,
+                                   fixture.path(root));
         launcher.environment = {};
         launcher.shortcutFolders = fixture.launcher.shortcutFolders;
-        BuildIwadList(launcher.iwads, fixture.files, launcher.paths, launcher.environment);
-        OptionUdirClick(launcher, installedGames);
-        launcher.controls.SkillsLevel[1].click(4);
-        const QString line = PlanSelectedGame(launcher, [](const QString&) { return 1; }).commandLine;
+        ReadFacts(launcher);
+        launcher.controls.OptionUdir.click(View::InstalledGames);
+        launcher.controls.SkillsLevel[SkillList::Basic].click(4);
+        const QString line = PlanLaunch(launcher).commandLine;
         QVERIFY(line.startsWith(u"Bin\\Keldrax "_s));
         fixture.prompts.expectShortcut(desktopOnly);
         MakeShortcut(launcher);

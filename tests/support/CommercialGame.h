@@ -1,9 +1,8 @@
 #pragma once
 
-#include "app/SettingsControls.h"
+#include "app/MainWindowLoad.h"
+#include "app/ShowAll.h"
 #include "catalogue/GameLists.h"
-#include "options/LoadOptions.h"
-#include "options/Skills.h"
 #include "platform/SystemProcesses.h"
 #include "tests/support/LauncherFixture.h"
 
@@ -22,13 +21,16 @@ public:
         installation.addFolder(QStringLiteral("Md2/CoreEffects")); // without them FX is in force
         installation.add(QStringLiteral("Defs/Base/CoreEffects.ded"));
         launcher.settings = settings;
-        PrepareOptions(launcher);
-        ApplySettingsToControls(launcher.settings, launcher.controls);
-        CheckOptions(launcher);
-        SetMapFocus(launcher);
-        BuildIwadList(launcher.iwads, files, launcher.paths, launcher.environment);
-        OptionUdirClick(launcher, 1);
+        load();
         selectGame(QStringLiteral("Doom II"));
+    }
+
+    // Reads all facts anew, as a start of the launcher does.
+    void load()
+    {
+        launcher.facts.iwads = {};
+        ReadFacts(launcher);
+        ShowWindow(launcher);
     }
 
     // A WAD whose maps are `maps`.
@@ -42,10 +44,12 @@ public:
     }
 
     // The player's clicks.
+    void show(View view) { launcher.controls.OptionUdir.click(view); }
     void selectGame(const QString& title) { click(launcher.controls.PwadList, title); }
     void pickMap(const QString& map) { click(launcher.controls.MapList, map); }
+    void pickFile(const QString& file) { click(launcher.controls.PwadShowlist, file); }
     void pickSavegame(const QString& entry) { click(launcher.controls.SaveGameList, entry); }
-    void pickSkill(int skill) { launcher.controls.SkillsLevel[1].click(skill); }
+    void pickSkill(int skill) { launcher.controls.SkillsLevel[SkillList::Basic].click(skill); }
 
 private:
     static void click(ListBox& list, const QString& entry)

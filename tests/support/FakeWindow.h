@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/MainWindowHost.h"
+#include "state/MainWindowHost.h"
 
 #include <QRect>
 #include <QStringList>

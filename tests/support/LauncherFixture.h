@@ -1,9 +1,10 @@
 #pragma once
 
-#include "app/Launcher.h"
+#include "app/Connect.h"
 #include "app/SettingsFile.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Text.h"
+#include "state/OptionTable.h"
 #include "tests/support/FailingFileSystem.h"
 #include "tests/support/FakeWindow.h"
 #include "tests/support/QueuedPrompts.h"
@@ -31,7 +32,7 @@ public:
     RecordingProcesses processes;
     QueuedPrompts prompts;
     FakeWindow window;
-    Launcher launcher{files, processes, prompts, window, installation.root()};
+    ConnectedLauncher launcher{files, processes, prompts, window, installation.root()};
 
     QString path(const QString& relativePath) const { return installation.path(relativePath); }
     QString nativePath(const QString& relativePath) const { return installation.nativePath(relativePath); }

@@ -9,10 +9,10 @@ namespace {
 const struct
 {
     const char16_t* name;
-    int view;
-} views[] = {{u"installed", 0}, {u"doom", 1}, {u"zips", 2}};
+    View view;
+} views[] = {{u"installed", View::InstalledGames}, {u"doom", View::DoomGames}, {u"zips", View::ZipLibrary}};
 
-std::optional<int> viewNamed(const QString& name)
+std::optional<View> viewNamed(const QString& name)
 {
     for (const auto& row : views)
         if (name.compare(QString::fromUtf16(row.name), Qt::CaseInsensitive) == 0)

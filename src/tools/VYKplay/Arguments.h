@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/ControlNames.h"
+
 #include <QStringList>
 
 #include <optional>
@@ -10,9 +12,9 @@ struct Arguments
     enum class Command { List, Maps, Play, Install, Integrate, Help };
 
     Command command = Command::Help;
-    QString game;            // of Maps and Play
-    std::optional<int> view; // 0 installed games, 1 Doom games, 2 zip library
-    QString root;            // the installation; empty: the one the program lies in
+    QString game; // of Maps and Play
+    std::optional<View> view;
+    QString root; // the installation; empty: the one the program lies in
 
     // Of Play.
     QString map, slot;

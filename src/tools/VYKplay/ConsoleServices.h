@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/MainWindowHost.h"
 #include "platform/Processes.h"
+#include "state/MainWindowHost.h"
 #include "ui/Prompts.h"
 
 #include <QTextStream>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/InstallationPaths.h"
 #include "platform/MenuEntry.h"
+#include "state/InstallationPaths.h"
 
 #include <QTextStream>
 

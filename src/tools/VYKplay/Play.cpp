@@ -1,18 +1,22 @@
 #include "tools/VYKplay/Play.h"
 
-#include "app/SettingsControls.h"
+#include "app/Connect.h"
 #include "app/SettingsLoad.h"
+#include "app/ShowAll.h"
 #include "app/StartUp.h"
 #include "catalogue/GameLists.h"
+#include "catalogue/GameSelection.h"
 #include "catalogue/InstallGame.h"
+#include "iwads/IwadSearch.h"
 #include "launch/LaunchButton.h"
 #include "music/Playlists.h"
-#include "options/LoadOptions.h"
+#include "options/PackFacts.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
 #include "platform/ReadOnlyFileSystem.h"
 #include "platform/SystemProcesses.h"
 #include "platform/Text.h"
+#include "state/OptionTable.h"
 #include "tools/VYKplay/ConsoleServices.h"
 #include "tools/VYKplay/Integrate.h"
 #include "wad/MainWad.h"
@@ -37,45 +41,33 @@ void load(Launcher& launcher, QTextStream& err)
         err << "config.vyk cannot be read: the default settings are used." << Qt::endl;
         UseDefaultSettings(launcher);
     }
-    CorrectSettings(launcher);
-    PrepareOptions(launcher);
-    BuildIwadList(launcher.iwads, launcher.files, launcher.paths, launcher.environment);
-    ApplySettingsToControls(launcher.settings, launcher.controls);
-    FillPlaylistList(launcher);
-    if (launcher.settings.Skill == 0)
-        launcher.launch.StartChoice = StartChoice::NewGame;
-    CheckOptions(launcher);
+    CorrectSettings(launcher.settings);
+    IwadPaths& iwads = launcher.facts.iwads;
+    BuildIwadList(iwads, launcher.files, launcher.paths, launcher.environment);
+    launcher.facts.iwadsOnDisk = ReadIwadFacts(iwads, launcher.files, launcher.paths, launcher.environment);
+    ReadPacks(launcher);
+    ReadPlaylists(launcher);
 }
 
-QList<int> viewsOf(const Arguments& arguments)
+QList<View> viewsOf(const Arguments& arguments)
 {
-    return arguments.view ? QList<int>{*arguments.view} : QList<int>{doomGames, installedGames, zipLibrary};
+    return arguments.view ? QList<View>{*arguments.view}
+                          : QList<View>{View::DoomGames, View::InstalledGames, View::ZipLibrary};
 }
 
-// A game that loads its files itself has none chosen until the player chooses one: take its main WAD.
-void chooseFile(Launcher& launcher)
-{
-    ListBox& files = launcher.controls.PwadShowlist;
-    if (launcher.selection.GwadSelected && files.selected() < 0)
-        files.select(files.find(FileNameOf(MainWadOf(launcher, launcher.selection.SelectedGameFolder))));
-}
-
-// Selects the game in the first view that has it.
+// Selects the game in the first view that has it. A game that loads its files itself has none chosen until
+// the player chooses one: then it is its main WAD.
 bool selectGame(Launcher& launcher, const Arguments& arguments)
 {
-    Settings& settings = launcher.settings;
-    for (const int view : viewsOf(arguments)) {
-        FillGamesList(launcher, view);
-        const ListBox& games = launcher.controls.PwadList;
-        const int index = games.find(arguments.game);
-        if (index < 0)
+    for (const View view : viewsOf(arguments)) {
+        const ListEntry game = FindGame(GamesOf(launcher, view), arguments.game);
+        if (game.name.isEmpty())
             continue;
-        QString& remembered = view == installedGames ? settings.SelectedGame
-                              : view == doomGames    ? settings.SelectedDoomGame
-                                                     : settings.SelectedArchive;
-        remembered = games.name(index);
-        OptionUdirClick(launcher, view);
-        chooseFile(launcher);
+        SelectedNameOf(launcher.settings, view) = game.name;
+        SelectView(launcher, view);
+        if (launcher.gameIs(GameKind::Gwad) && launcher.chosenFile().isEmpty())
+            SelectFile(launcher, ChooseMainWad(launcher, launcher.facts.game));
+        ShowWindow(launcher);
         return true;
     }
     return false;
@@ -83,17 +75,15 @@ bool selectGame(Launcher& launcher, const Arguments& arguments)
 
 int listGames(Launcher& launcher, const Arguments& arguments, QTextStream& out)
 {
-    for (const int view : viewsOf(arguments)) {
-        FillGamesList(launcher, view);
-        for (const QString& game : launcher.controls.PwadList.entries())
-            out << game << Qt::endl;
-    }
+    for (const View view : viewsOf(arguments))
+        for (const ListEntry& game : GamesOf(launcher, view))
+            out << game.text << Qt::endl;
     return done;
 }
 
 int listMaps(const Launcher& launcher, QTextStream& out)
 {
-    for (const QString& map : launcher.controls.MapList.entries())
+    for (const QString& map : launcher.facts.file.maps)
         out << map << Qt::endl;
     return done;
 }
@@ -103,7 +93,7 @@ bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& er
 {
     Controls& controls = launcher.controls;
     if (arguments.skill != 0 || arguments.newGame)
-        controls.SkillsLevel[1].select(arguments.skill);
+        controls.SkillsLevel[SkillList::Basic].select(arguments.skill);
     if (!arguments.map.isEmpty()) {
         const int map = controls.MapList.find(arguments.map);
         if (map < 0)
@@ -207,7 +197,7 @@ int RunVYKplay(const Arguments& arguments, const QString& root, QTextStream& out
                          (arguments.command == Arguments::Command::Play && !arguments.dryRun);
     FileSystem& files = changes ? static_cast<FileSystem&>(disk) : readOnly;
     Processes& processes = changes ? static_cast<Processes&>(system) : printing;
-    Launcher launcher(files, processes, prompts, window, root);
+    ConnectedLauncher launcher(files, processes, prompts, window, root);
     try {
         return run(launcher, arguments, out, err);
     } catch (const FileError& error) {

@@ -1,5 +1,5 @@
-#include "app/InstallationPaths.h"
 #include "platform/Console.h"
+#include "state/InstallationPaths.h"
 #include "tools/VYKplay/Play.h"
 
 #include <QCoreApplication>
