@@ -196,6 +196,15 @@ private Q_SLOTS:
                  engine + u" -Doom2 -am -data hv_doom_sfx.wad -3d -ch 128 -upm -usb -ro -ct 9 -cmd "
                           "\"audio-ricoh 4\" \"rend-light 1\" \"rend-smoke 1\" "_s);
     }
+    void aLogThatFailsStopsNoGame()
+    {
+        CommercialGame game;
+        game.installation.add(u"VYKLaunch/launch.log"_s, "the last line");
+        game.files.failOn(u"launch.log"_s, FileError::Kind::Other);
+        press(game);
+        QCOMPARE(game.processes.starts.size(), 1);
+        QCOMPARE(game.installation.read(u"VYKLaunch/launch.log"_s), "the last line");
+    }
 };
 
 QTEST_GUILESS_MAIN(LaunchTest)
