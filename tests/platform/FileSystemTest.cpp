@@ -64,8 +64,8 @@ private Q_SLOTS:
         m_files.write(at(u"DATA/.fresh"_s), "\0\n"_ba);
         m_files.write(at(u"large"_s), large);
         m_files.copy(at(u"LARGE"_s), at(u"Data/CONFIG.VYK"_s));
-        m_files.copy(at(u"data/.Fresh"_s), at(u"copy"_s));
-        m_files.move(at(u"COPY"_s), at(u"Copy"_s));
+        m_files.copy(at(u"data/.Fresh"_s), at(u"copied"_s));
+        m_files.move(at(u"COPIED"_s), at(u"Copy"_s));
         QCOMPARE(m_disk->tree().join(u' '), u"Copy Data/.fresh Data/Config.vyk large"_s);
         QVERIFY(m_disk->read(u"Data/Config.vyk"_s) == large);
         QCOMPARE(m_disk->read(u"Copy"_s), "\0\n"_ba);
