@@ -30,10 +30,11 @@ GameFacts doomGame(const Launcher& launcher, const QString& title)
             .name = title,
             .folder = FolderOf(iwad) + u'/',
             .files = {FileNameOf(iwad)},
+            .mainWad = FileNameOf(iwad),
             .scriptedMap = {}};
 }
 
-GameFacts installedGame(const Launcher& launcher, const QString& name)
+GameFacts installedGame(Launcher& launcher, const QString& name)
 {
     const QString game = launcher.paths.GamesPath + name;
     const bool isGwad = launcher.files.folderExists(game + u"/Gwads"_s);
@@ -43,20 +44,28 @@ GameFacts installedGame(const Launcher& launcher, const QString& name)
                     .name = name,
                     .folder = (onDisk.isEmpty() ? folder : onDisk) + u'/',
                     .files = {},
+                    .mainWad = {},
                     .scriptedMap = {}};
     facts.files = GameFilesOf(launcher.files, facts.folder);
-    if (!isGwad)
+    if (!isGwad) {
+        facts.mainWad = ChooseMainWad(launcher, facts);
         facts.scriptedMap = IsScriptedMap(launcher.files, launcher.paths, name);
+    }
     return facts;
 }
 
 GameFacts archive(Launcher& launcher, const QString& name)
 {
     const QString folder = ZipFolder(launcher.paths);
-    GameFacts facts{
-        .kind = GameKind::Archive, .name = name, .folder = folder, .files = {}, .scriptedMap = {}};
+    GameFacts facts{.kind = GameKind::Archive,
+                    .name = name,
+                    .folder = folder,
+                    .files = {},
+                    .mainWad = {},
+                    .scriptedMap = {}};
     if (OpenArchive(launcher, name)) // else whatever may be left there is not this zip's
         facts.files = GameFilesOf(launcher.files, folder);
+    facts.mainWad = ChooseMainWad(launcher, facts);
     return facts;
 }
 
@@ -91,7 +100,7 @@ QString usualFile(Launcher& launcher)
     const GameFacts& game = launcher.facts.game;
     if (game.kind == GameKind::Gwad)
         return GameRecords(launcher.files, launcher.paths, launcher).gwadFile();
-    return game.kind == GameKind::Doom ? game.files.value(0) : ChooseMainWad(launcher, game);
+    return game.mainWad;
 }
 
 void gameFileClicked(Launcher& launcher)

@@ -35,7 +35,7 @@ QStringList withEnding(const QStringList& names, const QString& ending)
 
 } // namespace
 
-GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& mainWad, bool iwadMissing)
+GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& chosenWad, bool iwadMissing)
 {
     const bool isArchive = game.kind == GameKind::Archive;
     const QString userDir = FileNameOf(FolderOf(game.folder.chopped(1)));
@@ -43,13 +43,15 @@ GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& mainWad,
     if (!isArchive)
         pieces.add(u"-udir "_s, userDir);
     if (game.kind == GameKind::Gwad)
-        pieces.add(u"-f "_s, mainWad);
-    if (game.kind == GameKind::Gwad || (!isArchive && !iwadMissing))
+        pieces.add(u"-f "_s, chosenWad);
+    // A folder's name alone starts its main WAD: another one has to be named.
+    const bool isFolderEnough = !isArchive && !iwadMissing && SameName(chosenWad, game.mainWad);
+    if (game.kind == GameKind::Gwad || isFolderEnough)
         return pieces.arguments();
 
     const auto pathOf = [&game](const QString& name) { return NativePath(game.folder + name); };
     const auto nameOf = [&](const QString& name) { return isArchive ? pathOf(name) : name; };
-    const QStringList files = GatherGameFiles(game.files, mainWad);
+    const QStringList files = GatherGameFiles(game.files, chosenWad);
     pieces.add(u"-f"_s);
     QString introduction = u" "_s;
     for (const QString& name : withEnding(files, u".wad"_s))

@@ -11,6 +11,6 @@ struct GameFileArguments
     QStringList names; // what stands in quotes in it
 };
 
-// The file arguments of a game with one of its files as the main WAD. `iwadMissing`: the engine does not find
-// the IWAD by itself and then is told every file too.
-GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& mainWad, bool iwadMissing);
+// The file arguments of a game of which one file is to be played. `iwadMissing`: the engine does not find the
+// IWAD by itself and then is told every file too.
+GameFileArguments FileArgumentsOf(const GameFacts& game, const QString& chosenWad, bool iwadMissing);

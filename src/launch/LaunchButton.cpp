@@ -25,7 +25,19 @@ void show(Prompts& prompts, const LaunchMessage& message)
     prompts.MsgboxPos(message.text, Msg::Ok + Msg::Information, message.title);
 }
 
-LaunchResult start(Launcher& launcher, const QString& commandLine)
+void reportFailure(Launcher& launcher, const QString& lastWords)
+{
+    launcher.window.bringToFront();
+    QString text = u"The game has ended with an error.    \r\n\r\n"_s;
+    if (!lastWords.isEmpty())
+        text += QString(lastWords).replace(u'\n', u"\r\n"_s) + u"\r\n\r\n"_s;
+    text += u"The file Keldrax.out may tell more. Without a Doom engine nothing can be played:    \r\n"
+            "install one or put one into the folder Engine.    "_s;
+    show(launcher.prompts, {text, u" Launch error"_s});
+}
+
+LaunchResult start(Launcher& launcher, const QString& commandLine,
+                   const std::function<void(bool played)>& known)
 {
     const auto mode = static_cast<LaunchMode>(launcher.settings.LastLaunchMode);
     launcher.session.AfterLaunch = true;
@@ -34,15 +46,26 @@ LaunchResult start(Launcher& launcher, const QString& commandLine)
     launcher.settings.WindowLeft = launcher.window.position().x();
     if (mode == LaunchMode::Minimised)
         launcher.window.minimise();
-    if (!launcher.processes.start(commandLine, launcher.paths.RootPath)) {
+    const ProgramWatch watch{.settled =
+                                 [&launcher, mode, known] {
+                                     if (mode == LaunchMode::Exit)
+                                         ShutDownLauncher(launcher);
+                                     if (known)
+                                         known(true);
+                                 },
+                             .failed =
+                                 [&launcher, known](const QString& lastWords) {
+                                     reportFailure(launcher, lastWords);
+                                     if (known)
+                                         known(false);
+                                 }};
+    if (!launcher.processes.startWatched(commandLine, launcher.paths.RootPath, watch)) {
         launcher.session.AfterLaunch = false;
         launcher.window.bringToFront(); // a message over a minimised window may not be seen
         launcher.prompts.MsgboxPos(u"Cannot execute! The command line was:\r\n"_s + commandLine, Msg::Ok,
                                    QString());
         return LaunchResult::Refused;
     }
-    if (mode == LaunchMode::Exit)
-        ShutDownLauncher(launcher);
     return LaunchResult::Started;
 }
 
@@ -79,12 +102,12 @@ bool ShowMessages(Launcher& launcher, const LaunchPlan& plan)
     return false;
 }
 
-LaunchResult LaunchSelectedGame(Launcher& launcher)
+LaunchResult LaunchSelectedGame(Launcher& launcher, const std::function<void(bool played)>& known)
 {
     ReadBeforeLaunch(launcher);
     launcher.settings.LastLaunchMode = launcher.settings.LaunchMode;
     const LaunchPlan plan = PlanLaunch(launcher);
-    return ShowMessages(launcher, plan) ? start(launcher, plan.commandLine) : LaunchResult::Refused;
+    return ShowMessages(launcher, plan) ? start(launcher, plan.commandLine, known) : LaunchResult::Refused;
 }
 
 void ShowLaunch(const Truth& truth, const LaunchPlan& plan, Controls& controls)

@@ -4,7 +4,7 @@
 #include "state/Launcher.h"
 
 enum class LaunchResult {
-    Started,
+    Started, // whether the game goes on, too, is known a few seconds later
     Refused, // with a message
 };
 
@@ -18,8 +18,9 @@ void ReadBeforeLaunch(Launcher& launcher);
 bool ShowMessages(Launcher& launcher, const LaunchPlan& plan);
 
 // Works out the plan of what is selected and starts the engine, unless it is refused. Leaves the launcher as
-// the launch mode says.
-LaunchResult LaunchSelectedGame(Launcher& launcher);
+// the launch mode says; a game that ends with an error brings the window back, with a message. `known` is
+// called when the game has been running for a few seconds or has ended: whether it did without an error.
+LaunchResult LaunchSelectedGame(Launcher& launcher, const std::function<void(bool played)>& known = {});
 
 // What the Launch button, the preview and the shortcut's button show of a plan.
 void ShowLaunch(const Truth& truth, const LaunchPlan& plan, Controls& controls);

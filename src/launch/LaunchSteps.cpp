@@ -32,8 +32,7 @@ bool canBeQuoted(const Truth& truth, const QString& own, GameFamily family, cons
 {
     const auto carries = [&own](const QString& value) { return value.contains(u'"') && own.contains(value); };
     return own.count(u'"') % 2 == 0 && !carries(NativePath(truth.facts.iwads.of(family))) &&
-           !carries(NativePath(truth.facts.resources.textures)) &&
-           !carries(BaseNameOf(truth.settings.PlaylistName)) &&
+           !carries(NativePath(truth.facts.resources.textures)) && !carries(truth.settings.PlaylistName) &&
            std::ranges::none_of(names, [](const QString& name) { return name.contains(u'"'); });
 }
 

@@ -26,3 +26,14 @@ QStringList SplitCommandLine(const QString& commandLine)
     end();
     return arguments;
 }
+
+QString LastWords(const QByteArray& output)
+{
+    constexpr qsizetype mostLines = 6, longestLine = 300;
+    QStringList words;
+    const QStringList lines = QString::fromLocal8Bit(output).split(u'\n');
+    for (auto line = lines.crbegin(); line != lines.crend() && words.size() < mostLines; ++line)
+        if (const QString text = line->simplified(); !text.isEmpty())
+            words.prepend(text.left(longestLine));
+    return words.join(u'\n');
+}

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 // Splits a command line into its arguments: blanks and tabs separate, double quotes group (anywhere in
 // an argument), nothing escapes; "" is an empty argument. A missing closing quote reaches to the end.
 QStringList SplitCommandLine(const QString& commandLine);
@@ -14,6 +16,18 @@ struct Captured
     QString error;     // when it was not started: the system's error number (its words if that is unknown)
     QByteArray output; // both streams, in the order written
 };
+
+// What is told of a program that was started; from the event loop, while the `Processes` lives.
+struct ProgramWatch
+{
+    // Once: it goes on after its first seconds, or has ended without an error.
+    std::function<void()> settled;
+    // It ended with an error; `lastWords` are the last lines that it wrote, empty when it wrote none.
+    std::function<void(const QString& lastWords)> failed;
+};
+
+// The last lines of what a program wrote, in its order; blank ones and more than a message can hold left out.
+QString LastWords(const QByteArray& output);
 
 // Starting programs. The first argument of a command line names the program relative to `folder`, with
 // '/' or '\'; case does not matter and ".exe" may be missing or stand where the disk has none. A Windows
@@ -31,4 +45,8 @@ public:
     // Starts a program with `folder` as its working folder and does not wait for it. Returns false when
     // it could not be started.
     virtual bool start(const QString& commandLine, const QString& folder) = 0;
+
+    // The same, and tells how it fares. The program goes on when this object, or this program, ends.
+    virtual bool startWatched(const QString& commandLine, const QString& folder,
+                              const ProgramWatch& watch) = 0;
 };

@@ -20,3 +20,5 @@ void SetArguments(QProcess& process, const QStringList& /*arguments*/, const QSt
 {
     process.setNativeArguments(behindProgram(commandLine));
 }
+
+void Detach(QProcess&) {} // no program ends with another

@@ -9,6 +9,8 @@
 #include <QOperatingSystemVersion>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryFile>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +52,26 @@ void prepare(QProcess& process, const Command& command, const QString& commandLi
     process.setWorkingDirectory(command.folder);
 }
 
+// A program that outlives this object.
+class WatchedProgram : public QProcess
+{
+public:
+    using QProcess::QProcess;
+    WatchedProgram(const WatchedProgram&) = delete;
+    WatchedProgram& operator=(const WatchedProgram&) = delete;
+    ~WatchedProgram() override { setProcessState(NotRunning); } // what runs would be ended else
+};
+
+QByteArray EndOf(const QString& path)
+{
+    constexpr qint64 enough = 4096;
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly))
+        return {};
+    file.seek(qMax(qint64(0), file.size() - enough));
+    return file.read(enough);
+}
+
 } // namespace
 
 Captured SystemProcesses::capture(const QString& commandLine, const QString& folder)
@@ -76,6 +98,47 @@ bool SystemProcesses::start(const QString& commandLine, const QString& folder)
     QProcess process;
     prepare(process, *command, commandLine);
     return process.startDetached();
+}
+
+bool SystemProcesses::startWatched(const QString& commandLine, const QString& folder,
+                                   const ProgramWatch& watch)
+{
+    const auto command = Resolve(m_files, commandLine, folder);
+    if (!command)
+        return false;
+    auto process = std::make_unique<WatchedProgram>();
+    prepare(*process, *command, commandLine);
+    Detach(*process);
+    // Into a file: a pipe would break when this program ends before the other.
+    auto* const output = new QTemporaryFile(process.get());
+    const bool isKept = output->open();
+    output->close();
+    process->setProcessChannelMode(QProcess::MergedChannels);
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(isKept ? output->fileName() : QProcess::nullDevice());
+    process->start();
+    if (!process->waitForStarted(-1))
+        return false;
+
+    WatchedProgram* const running = process.release();
+    running->setParent(&m_watched);
+    const auto settle = std::make_shared<std::function<void()>>(watch.settled);
+    const auto settled = [settle] {
+        if (const auto once = std::exchange(*settle, {}))
+            once();
+    };
+    QObject::connect(running, &QProcess::finished, running,
+                     [=, failed = watch.failed](int status, QProcess::ExitStatus how) {
+                         running->deleteLater();
+                         if (how == QProcess::NormalExit && status == 0) {
+                             settled();
+                             return;
+                         }
+                         *settle = {};
+                         failed(LastWords(EndOf(output->fileName())));
+                     });
+    QTimer::singleShot(m_firstSeconds, running, settled);
+    return true;
 }
 
 std::expected<Command, int> ResolveCommand(const FileSystem& files, const QString& name,

@@ -3,20 +3,31 @@
 #include "platform/FileSystem.h"
 #include "platform/Processes.h"
 
+#include <QObject>
+
+#include <chrono>
 #include <expected>
 
 // The system's processes.
 class SystemProcesses : public Processes
 {
 public:
-    // `files` finds the programs; it must outlive this object.
-    explicit SystemProcesses(const FileSystem& files) : m_files(files) {}
+    // `files` finds the programs; it must outlive this object. A watched program is settled when it runs
+    // after `firstSeconds`.
+    explicit SystemProcesses(const FileSystem& files,
+                             std::chrono::milliseconds firstSeconds = std::chrono::seconds(5))
+        : m_files(files), m_firstSeconds(firstSeconds)
+    {
+    }
 
     Captured capture(const QString& commandLine, const QString& folder) override;
     bool start(const QString& commandLine, const QString& folder) override;
+    bool startWatched(const QString& commandLine, const QString& folder, const ProgramWatch& watch) override;
 
 private:
     const FileSystem& m_files;
+    std::chrono::milliseconds m_firstSeconds;
+    QObject m_watched; // the parent of the programs that are watched
 };
 
 // The path of the program that `name` means in `folder` (see Processes); empty when there is none.

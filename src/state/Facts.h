@@ -62,6 +62,7 @@ struct GameFacts
     QString name;      // on disk; a Doom game's title
     QString folder;    // of its files; ends in '/'
     QStringList files; // the names of its game files, ascending, of every kind
+    QString mainWad; // the one it starts with unless another is chosen; a game that loads its files has none
     ScriptedMapCheck scriptedMap;
 };
 

@@ -39,6 +39,7 @@ public:
                                                                      : saveGameHeaders(path))};
     }
     bool start(const QString&, const QString&) override { return true; }
+    bool startWatched(const QString&, const QString&, const ProgramWatch&) override { return true; }
 };
 
 // A player who answers as it comes.

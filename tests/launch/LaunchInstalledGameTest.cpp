@@ -84,6 +84,16 @@ private Q_SLOTS:
              u"-udir \"Manual\" -f \"Main.wad\" \"small.wad\" \"textures.wad\" -deh \"a.deh\" \"b.DEH\" "
              "-d \"%1/VYKGames/Manual/Pwads/d.ded\" "_s,
              u"-wp 01 "_s},
+            {"by hand, another WAD",
+             [](InstalledGame& game) {
+                 game.selectGame(u"MANUAL"_s);
+                 game.pickFile(u"small.wad"_s);
+             },
+             u"-udir \"Manual\" -f \"small.wad\" \"Main.wad\" \"textures.wad\" -deh \"a.deh\" \"b.DEH\" "
+             "-d \"%1/VYKGames/Manual/Pwads/d.ded\" "_s,
+             u"-udir \"Manual\" -f \"small.wad\" \"Main.wad\" \"textures.wad\" -deh \"a.deh\" \"b.DEH\" "
+             "-d \"%1/VYKGames/Manual/Pwads/d.ded\" "_s,
+             u"-wp 01 "_s},
             {"by hand, odd name", [](InstalledGame& game) { game.selectGame(u"L\u00c4UFER 100% & CO"_s); },
              u"-udir \"L\u00e4ufer 100% & Co\" "_s,
              u"-udir \"L\u00e4ufer 100% & Co\" -f \"z\u00fc rich.wad\" "_s, u"-wp 11 "_s},

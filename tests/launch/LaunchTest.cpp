@@ -157,10 +157,25 @@ private Q_SLOTS:
             QVERIFY(!launcher.startUp.ShuttingDown && !launcher.session.AfterLaunch);
         }
 
+        // So does a game that ends with an error, now or later, and the window is back with what it said.
         game.processes.startResult = true;
+        for (const LaunchMode mode : {LaunchMode::Normal, LaunchMode::Minimised, LaunchMode::Exit}) {
+            launcher.controls.ExitOption.click(mode);
+            press(game);
+            game.window.calls.clear();
+            game.prompts.expectMessage();
+            game.processes.watches.last().failed(u"W_Init: a.wad is no WAD\nbye"_s);
+            QVERIFY(game.prompts.texts.last().contains(u"W_Init: a.wad is no WAD\r\nbye"_s));
+            QCOMPARE(game.window.calls, QStringList(u"bringToFront"_s));
+            QVERIFY(!launcher.startUp.ShuttingDown);
+        }
+
+        // The launcher ends when it is known that the game goes on.
         game.window.calls.clear();
         press(game);
         QCOMPARE(launcher.settings.LastLaunchMode, static_cast<int>(LaunchMode::Exit));
+        QCOMPARE(game.window.calls, QStringList());
+        game.processes.watches.last().settled();
         QCOMPARE(game.window.calls, (QStringList{u"hide"_s, u"endProgram"_s}));
         QVERIFY(launcher.startUp.ShuttingDown);
     }

@@ -36,6 +36,7 @@ Truth gameOf(GameKind kind, bool scripted)
                         .name = kind == GameKind::Doom ? u"Doom II"_s : u"Game"_s,
                         .folder = u"/VYKGames/Game/Pwads/"_s,
                         .files = {u"game.wad"_s},
+                        .mainWad = u"game.wad"_s,
                         .scriptedMap = {.isScriptedMap = scripted, .isComplete = scripted}};
     truth.facts.file.maps = QStringList{u"MAP01"_s};
     truth.selection.file = u"game.wad"_s;

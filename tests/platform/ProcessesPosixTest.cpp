@@ -49,6 +49,38 @@ private Q_SLOTS:
                  folder.toUtf8() + "\n2:a $HOME 'b'.wad\n" + QByteArray(100000, 0));
     }
 
+    void watchedPrograms()
+    {
+        QStringList told;
+        const ProgramWatch watch{.settled = [&] { told << u"settled"_s; },
+                                 .failed = [&](const QString& words) { told << words; }};
+        m_disk.addProgram(u"Fails"_s,
+                          "#!/bin/sh\nyes ' far  too much' | head -9999; echo; echo why >&2; exit 3\n");
+        m_disk.addProgram(u"Crashes"_s, "#!/bin/sh\nkill -9 $$\n");
+        m_disk.addProgram(u"Ends"_s, "#!/bin/sh\n");
+        QVERIFY(!m_processes.startWatched(u"None"_s, m_disk.root(), watch));
+        for (const QString& program : {u"Fails"_s, u"Crashes"_s, u"Ends"_s}) {
+            QVERIFY(m_processes.startWatched(program, m_disk.root(), watch));
+            const qsizetype before = told.size();
+            QTRY_VERIFY(told.size() > before);
+        }
+        QVERIFY(told[0].startsWith(u"far too much\n"_s) && told[0].endsWith(u"\nwhy"_s) &&
+                told[0].size() < 100);
+        QCOMPARE(told.sliced(1), (QStringList{u""_s, u"settled"_s}));
+
+        // What runs on is settled, and outlives the launcher.
+        QCOMPARE(mkfifo(QFile::encodeName(m_disk.path(u"door"_s)).constData(), 0600), 0);
+        m_disk.addProgram(u"Runs"_s, "#!/bin/sh\nread line < door\necho more\n>opened\n");
+        {
+            SystemProcesses impatient(m_files, std::chrono::milliseconds(0));
+            QVERIFY(impatient.startWatched(u"Runs"_s, m_disk.root(), watch));
+            QTRY_COMPARE(told.size(), 4);
+        }
+        QCOMPARE(told.last(), u"settled"_s);
+        m_disk.add(u"door"_s, "go\n");
+        QTRY_VERIFY(m_disk.exists(u"opened"_s));
+    }
+
     void startDoesNotWait()
     {
         QCOMPARE(mkfifo(QFile::encodeName(m_disk.path(u"gate"_s)).constData(), 0600), 0);
@@ -74,6 +106,5 @@ private Q_SLOTS:
     }
 };
 
-// No QCoreApplication: console programs use these functions without one.
-QTEST_APPLESS_MAIN(ProcessesPosixTest)
+QTEST_GUILESS_MAIN(ProcessesPosixTest)
 #include "ProcessesPosixTest.moc"

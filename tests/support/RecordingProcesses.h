@@ -40,5 +40,13 @@ public:
         return startResult;
     }
 
+    // Remembers the watch too: a test tells how the program fared.
+    bool startWatched(const QString& commandLine, const QString& folder, const ProgramWatch& watch) override
+    {
+        watches += watch;
+        return start(commandLine, folder);
+    }
+    QList<ProgramWatch> watches;
+
     QString lastCommandLine() const { return starts.isEmpty() ? QString() : starts.last().commandLine; }
 };

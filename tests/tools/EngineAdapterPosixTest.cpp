@@ -57,10 +57,11 @@ private Q_SLOTS:
                       "  tries=$((tries + 1)); [ $tries -gt 200 ] && exit 9; sleep 0.1\n"
                       "done\n"
                       "printf later >\"$2/doomsav4.dsg\"; echo engine speaks; exit 7\n");
-        QCOMPARE(game, "7: ");
+        QCOMPARE(game, "7: Keldrax: engine has ended with an error.\nengine speaks\n");
         const QString folder = m_disk->path(m_saves).chopped(1);
         QCOMPARE(QString::fromUtf8(m_disk->read(u"arguments"_s)),
-                 u"-iwad\n%1\n-savedir\n%2\n-loadgame\n1\n"_s.arg(m_disk->path(u"Data/Doom2.wad"_s), folder));
+                 u"-iwad\n%1\n-savedir\n%2\n-nogui\n-loadgame\n1\n"_s.arg(m_disk->path(u"Data/Doom2.wad"_s),
+                                                                          folder));
         QCOMPARE(m_disk->read(u"seen"_s), "earlier");
         QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).join(u' '),
                  u"KeldraxSav1.vyksg KeldraxSav2.vyksg KeldraxSav4.vyksg"_s);

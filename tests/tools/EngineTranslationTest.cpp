@@ -24,8 +24,10 @@ class EngineTranslationTest : public QObject
     QString translate(const QString& line) const
     {
         const QStringList arguments = QProcess::splitCommand(QString(line).replace(u"ROOT"_s, m_disk.root()));
+        KnownEngine engine = ConventionsOf(u"crispy-doom"_s);
+        engine.quietSwitch = {};
         const EnginePlan plan = TranslateCommandLine(
-            m_files, {m_disk.root(), arguments, m_environment, ConventionsOf(u"crispy-doom"_s),
+            m_files, {m_disk.root(), arguments, m_environment, engine,
                       [this](const QString& path) { return m_files.read(path, 9).toInt(); }});
         const QString words = AsLine(plan.arguments) + u" ["_s + plan.leftOut.join(u", "_s) + u']';
         return WithSlashes(words).replace(m_disk.root(), u"ROOT"_s);
@@ -36,8 +38,9 @@ private Q_SLOTS:
     {
         const std::pair<QString, QString> folders[] = {
             {u""_s,
-             u"Data/DOOM2.WAD;Doom1.wad;Elsewhere/Tnt.wad;Elsewhere/My IWAD.wad;UserSG/DOOM2/savegame/x"_s},
-            {u""_s, u"Iwads/Doom.wad;Iwads/Doom1.wad;VYKLaunch/Zips/z main.wad=1;VYKLaunch/Zips/y.wad=5"_s},
+             u"Data/DOOM2.WAD;Doom1.wad;Elsewhere/Tnt.wad;Data/sfx.wad;Elsewhere/My IWAD.wad;UserSG/DOOM2/savegame/x"_s},
+            {u""_s,
+             u"Iwads/Doom.wad;Iwads/Doom1.wad;VYKLaunch/Zips/z main.wad=1;VYKLaunch/Zips/y.wad=5;VYKLaunch/Zips/z.bex;VYKLaunch/Zips/z.deh"_s},
             {u"VYKGames/My Hell/Pwads/"_s,
              u"fix.deh;Fix2.BEX;x.ded=99;Doom2.wad=99;a.wad=0;b.WAD=3;d.wad=12;E.wad=12"_s},
             {u"VYKGames/Auto/"_s,
@@ -65,7 +68,7 @@ private Q_SLOTS:
             u"-devmap, -debug_scp, -listloresfm, -fp, -ap, -am, -np, -nht, -3d, -upm, -FMODmidi, -boom, -xa, "
             u"-spf, "
             "-noamwds, -fx, -spz, -spx, -noif1, -noif2, -pbm, -dt, -nojoy, -usb, -fsb, -ro, -nc, -nws, -stx, "
-            "-c_nextmap, -mfo, -smn, -v, -txe, -lean, -txn, -data a.wad, -ch 128, -dsst 3, -extmus b, -gnd "
+            "-c_nextmap, -mfo, -smn, -v, -txe, -lean, -txn, -ch 128, -dsst 3, -extmus b, -gnd "
             "5, -ct 30, "
             "-txa c, -td \"C:/My textures\", -cmd \"audio-ricoh 40\" \"rend-light 1\""_s;
         const std::pair<QString, QString> rows[] = {
@@ -84,18 +87,21 @@ private Q_SLOTS:
             {u"-iwad \"ROOT\\elsewhere\\my iwad.WAD\""_s,
              u"-iwad \"ROOT/Elsewhere/My IWAD.wad\" -savedir \"ROOT/UserSG/my iwad/savegame\" []"_s},
             {u"-doom2 -udir \"my hell\" -sk 1"_s,
-             doom2 + u"-file %1E.wad\" %1b.WAD\" %1d.wad\" %1a.wad\" -deh %1fix.deh\" %1Fix2.BEX\" "
+             doom2 + u"-file %1b.WAD\" %1d.wad\" %1a.wad\" %1E.wad\" -deh %1fix.deh\" %1Fix2.BEX\" "
                      "-savedir ROOT/UserSG/E/savegame -skill 1 []"_s.arg(hell)},
             {u"-iwad Data/doom2.wad -udir \"My Hell\" -f \"d.wad\" \"A.wad\" -deh FIX2.bex -d \"x.ded\""_s,
              doom2 +
-                 u"-file %1d.wad\" %1a.wad\" -deh %1Fix2.BEX\" %1fix.deh\" -savedir ROOT/UserSG/d/savegame "
+                 u"-file %1a.wad\" %1d.wad\" -deh %1Fix2.BEX\" %1fix.deh\" -savedir ROOT/UserSG/d/savegame "
                  "[-d x.ded]"_s.arg(hell)},
-            {u"-doom2 -udir Auto -f One.wad -file extra.wad"_s,
-             doom2 + u"-file %1one.wad %1two.wad %1res.wad extra.wad -deh %1p.deh "
-                     "-savedir ROOT/UserSG/one/savegame []"_s.arg(u"ROOT/VYKGames/Auto/Gwads/"_s)},
+            // What was chosen comes last, the sounds that a game may replace come first.
+            {u"-doom2 -udir Auto -f One.wad -data none.wad -data SFX.wad -file extra.wad"_s,
+             doom2 +
+                 u"-file ROOT/Data/sfx.wad %1two.wad %1res.wad extra.wad %1one.wad -deh %1p.deh "
+                 "-savedir ROOT/UserSG/one/savegame [-data none.wad: The file \"none.wad\" was not found.]"_s
+                     .arg(u"ROOT/VYKGames/Auto/Gwads/"_s)},
             {u"-doom2 -f \"ROOT/VYKLaunch/Zips/z main.wad\" VYKLaunch/Zips/y.wad"_s,
-             doom2 + u"-file \"ROOT/VYKLaunch/Zips/z main.wad\" ROOT/VYKLaunch/Zips/y.wad "
-                     "-savedir \"ROOT/UserSG/z main/savegame\" []"_s},
+             doom2 + u"-file ROOT/VYKLaunch/Zips/y.wad \"ROOT/VYKLaunch/Zips/z main.wad\" "
+                     "-deh ROOT/VYKLaunch/Zips/z.bex -savedir \"ROOT/UserSG/z main/savegame\" []"_s},
         };
         for (const auto& [given, expected] : rows)
             QCOMPARE(translate(given), expected);

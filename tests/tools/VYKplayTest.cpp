@@ -55,6 +55,16 @@ private Q_SLOTS:
                             QByteArray("Old friend").leftJustified(40, 0));
     }
 
+    void aFailedStartIsOne()
+    {
+        m_installation->addBuilt(u"Bin/Keldrax"_s, KELDRAX_PROGRAM);
+        qputenv("KELDRAX_ENGINE", "no-such-engine");
+        const Result result = run({u"play"_s, u"Doom II"_s});
+        qunsetenv("KELDRAX_ENGINE");
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.err.contains(u"\"no-such-engine\""_s), qPrintable(result.err));
+    }
+
     void wrongUsageIsTwo()
     {
         const QString lines = u"|dance|list nowhere|list doom zips|maps|play|play a b|play a --map 1 --new|"

@@ -70,6 +70,11 @@ public:
         m_stream << commandLine << Qt::endl;
         return true;
     }
+    bool startWatched(const QString& commandLine, const QString& folder, const ProgramWatch& watch) override
+    {
+        watch.settled();
+        return start(commandLine, folder);
+    }
 
 private:
     Processes& m_processes;

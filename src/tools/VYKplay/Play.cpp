@@ -21,6 +21,7 @@
 #include "tools/VYKplay/Integrate.h"
 #include "wad/MainWad.h"
 
+#include <QEventLoop>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -120,7 +121,17 @@ int play(Launcher& launcher, const Arguments& arguments, QTextStream& err)
 {
     if (!chooseStart(launcher, arguments, err))
         return refused;
-    return LaunchSelectedGame(launcher) == LaunchResult::Started ? done : refused;
+    std::optional<bool> played;
+    QEventLoop firstSeconds;
+    const auto known = [&](bool ok) {
+        played = ok;
+        firstSeconds.quit();
+    };
+    if (LaunchSelectedGame(launcher, known) == LaunchResult::Refused)
+        return refused;
+    if (!played)
+        firstSeconds.exec();
+    return *played ? done : refused;
 }
 
 Installed installFile(Launcher& launcher, const QString& path, bool asGwad)

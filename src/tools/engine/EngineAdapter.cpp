@@ -2,6 +2,7 @@
 
 #include "platform/Complain.h"
 #include "platform/Paths.h"
+#include "platform/Processes.h"
 #include "platform/Text.h"
 #include "tools/engine/EngineFailure.h"
 #include "tools/engine/EngineSavegames.h"
@@ -43,6 +44,7 @@ public:
         try {
             WriteLines(m_files, m_path, lines);
             m_path = m_files.actualPath(m_path);
+            m_start = QFileInfo(m_path).size();
             return true;
         } catch (const FileError& error) {
             complain(QString::fromUtf8(error.what()));
@@ -58,11 +60,23 @@ public:
             file.write(line.toUtf8() + "\r\n");
     }
 
+    // What was added since the last `rewrite`, up to the last few kilobytes.
+    QByteArray added() const
+    {
+        constexpr qint64 enough = 4096;
+        QFile file(m_path);
+        if (!file.open(QFile::ReadOnly))
+            return {};
+        file.seek(qMax(m_start, file.size() - enough));
+        return file.read(enough);
+    }
+
     const QString& path() const { return m_path; }
 
 private:
     FileSystem& m_files;
     QString m_path;
+    qint64 m_start = 0; // where that begins
 };
 
 // Runs the engine to its end, publishing savegames meanwhile.
@@ -90,11 +104,14 @@ int Play(const QString& program, const EnginePlan& plan, const QString& root, En
         savegames.publish();
     savegames.publishAll();
 
+    const QString lastWords = LastWords(report.added());
     if (engine.exitStatus() == QProcess::CrashExit) {
+        complain(u"The engine crashed or was ended.\n%1"_s.arg(lastWords));
         report.append(u"Exit status: none, the engine crashed or was ended"_s);
-        complain(u"The engine crashed or was ended. What it printed stands in %1."_s.arg(report.path()));
         return failed;
     }
+    if (engine.exitCode() != 0)
+        complain(u"%1 has ended with an error.\n%2"_s.arg(BaseNameOf(program), lastWords));
     report.append(u"Exit status: %1"_s.arg(engine.exitCode()));
     return engine.exitCode();
 }

@@ -16,6 +16,7 @@ constexpr EngineSwitch switches[] = {
     {u"-iwad", IwadFile, One, {}},
     {u"-udir", GameFolder, One, {}},
     {u"-f", GameFiles, Many, {}},
+    {u"-data", DataFiles, One, {}},
     {u"-file", ExtraFiles, Many, {}},
     {u"-deh", Patches, Many, {}},
 
@@ -52,7 +53,6 @@ constexpr EngineSwitch switches[] = {
     {u"-nws", LeaveOut, None, {}},
 
     // Sound.
-    {u"-data", LeaveOut, One, {}},
     {u"-3d", LeaveOut, None, {}},
     {u"-ch", LeaveOut, One, {}},
     {u"-dsst", LeaveOut, One, {}},

@@ -22,7 +22,8 @@ enum class SwitchUse {
     GameFolder, // -udir
     GameFiles,  // -f
     Patches,    // -deh
-    ExtraFiles  // -file: typed by the player, loaded after the game's own files
+    DataFiles,  // -data: loaded before the game's own files
+    ExtraFiles  // -file: typed by the player, loaded after the others, but for the WAD that is played
 };
 
 struct EngineSwitch

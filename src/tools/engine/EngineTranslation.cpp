@@ -16,7 +16,7 @@ struct Wishes
     QString iwadName; // of an IWAD in a standard place
     QString iwadFile; // or one that is named itself
     QString game;
-    QStringList gameFiles, patches, extraFiles;
+    QStringList dataFiles, gameFiles, patches, extraFiles;
     QStringList passed; // for the engine as it stands
     QStringList leftOut;
     bool hasGame = false;
@@ -112,6 +112,9 @@ Wishes Read(const QStringList& arguments)
         case SwitchUse::Patches:
             wishes.patches += values;
             break;
+        case SwitchUse::DataFiles:
+            wishes.dataFiles += values;
+            break;
         case SwitchUse::ExtraFiles:
             wishes.extraFiles += values;
             break;
@@ -142,7 +145,19 @@ struct LoadedFiles
 {
     QStringList wads; // the main WAD first
     QStringList patches;
+
+    QString mainWad() const { return wads.value(0); }
 };
+
+// A zip's patches that the command line has no switch for lie beside its WADs.
+QStringList UnnamedPatches(const FileSystem& files, const QString& root, const QStringList& wads)
+{
+    const QString folder = FolderOf(wads.value(0));
+    const bool isOpenedZip = (folder + u'/').startsWith(root + u"/VYKLaunch/Zips/"_s, Qt::CaseInsensitive);
+    QStringList patches = isOpenedZip ? PatchesOf(files, folder) : QStringList();
+    patches.removeIf([](const QString& path) { return !EndsWith(path, u".bex"_s); });
+    return patches;
+}
 
 LoadedFiles FilesOf(const FileSystem& files, const EngineRequest& request, const Wishes& wishes)
 {
@@ -150,8 +165,10 @@ LoadedFiles FilesOf(const FileSystem& files, const EngineRequest& request, const
         wishes.hasGame ? FindGameFolder(files, request.root, wishes.game) : GameFolder{{}, false};
     LoadedFiles loaded{NamedFiles(files, request.root, game.path, wishes.gameFiles),
                        NamedFiles(files, request.root, game.path, wishes.patches)};
-    if (!wishes.hasGame)
+    if (!wishes.hasGame) {
+        loaded.patches += UnnamedPatches(files, request.root, loaded.wads);
         return loaded;
+    }
     if (loaded.wads.isEmpty() || game.autoLoading)
         loaded.wads += WadsOf(files, game.path, request.countMaps);
     loaded.patches += PatchesOf(files, game.path);
@@ -163,11 +180,12 @@ LoadedFiles FilesOf(const FileSystem& files, const EngineRequest& request, const
 }
 
 // The launcher looks for savegames under the main WAD's name, or else the IWAD's in lower case.
-QString SaveFolder(const FileSystem& files, const QString& root, const QString& iwad, const QStringList& wads)
+QString SaveFolder(const FileSystem& files, const QString& root, const QString& iwad, const QString& mainWad)
 {
-    const QString key = wads.isEmpty() ? BaseNameOf(iwad).toLower() : BaseNameOf(wads.first());
+    const QString key = mainWad.isEmpty() ? BaseNameOf(iwad).toLower() : BaseNameOf(mainWad);
     if (key.isEmpty() || key == u"."_s || key == u".."_s)
-        throw EngineFailure(u"No savegame folder can be named after %1."_s.arg(wads.value(0, iwad)));
+        throw EngineFailure(
+            u"No savegame folder can be named after %1."_s.arg(mainWad.isEmpty() ? iwad : mainWad));
     const QString folder = root + u"/UserSG/"_s + key + u"/savegame"_s;
     const QString actual = files.actualPath(folder);
     return actual.isEmpty() ? folder : actual;
@@ -179,6 +197,13 @@ QStringList Native(QStringList paths)
     return paths;
 }
 
+// Of what several files hold, engines take the last: so the WAD that was chosen, whose maps the player saw,
+// comes after all the others.
+QStringList InLoadOrder(const QStringList& data, const LoadedFiles& loaded, const QStringList& extra)
+{
+    return Native(data + loaded.wads.mid(1)) + extra + Native(loaded.wads.first(qMin(1, loaded.wads.size())));
+}
+
 } // namespace
 
 EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& request)
@@ -188,15 +213,24 @@ EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& re
     const LoadedFiles loaded = FilesOf(files, request, wishes);
 
     EnginePlan plan;
-    plan.saveFolder = SaveFolder(files, request.root, iwad, loaded.wads);
+    plan.saveFolder = SaveFolder(files, request.root, iwad, loaded.mainWad());
     plan.leftOut = wishes.leftOut;
     plan.arguments = {u"-iwad"_s, NativePath(iwad)};
     // Engines read the first -file alone, so all files stand behind one.
-    if (const QStringList all = Native(loaded.wads) + wishes.extraFiles; !all.isEmpty())
+    QStringList data;
+    for (const QString& name : wishes.dataFiles)
+        try {
+            data += FindNamedFile(files, request.root, request.root + u"/Data"_s, name);
+        } catch (const EngineFailure& gone) { // a pack that was removed keeps nobody from playing
+            plan.leftOut += AsLine({u"-data"_s, name}) + u": "_s + QString::fromUtf8(gone.what());
+        }
+    if (const QStringList all = InLoadOrder(data, loaded, wishes.extraFiles); !all.isEmpty())
         plan.arguments += QStringList{u"-file"_s} + all;
     if (!loaded.patches.isEmpty())
         plan.arguments += QStringList{u"-deh"_s} + Native(loaded.patches);
     plan.arguments += {request.engine.saveFolderSwitch.toString(), NativePath(plan.saveFolder)};
+    if (!request.engine.quietSwitch.isEmpty())
+        plan.arguments += request.engine.quietSwitch.toString();
     plan.arguments += wishes.passed;
     return plan;
 }

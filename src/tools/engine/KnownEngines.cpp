@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr KnownEngine engines[] = {
-    {u"crispy-doom", u"-savedir", u"doomsav%1.dsg"},
-    {u"chocolate-doom", u"-savedir", u"doomsav%1.dsg"},
-    {u"woof", u"-save", u"woofsav%1.dsg"},
-    {u"dsda-doom", u"-save", u"dsda-doom-savegame%1.dsg"},
+    {u"crispy-doom", u"-savedir", u"doomsav%1.dsg", u"-nogui"},
+    {u"chocolate-doom", u"-savedir", u"doomsav%1.dsg", u"-nogui"},
+    {u"woof", u"-save", u"woofsav%1.dsg", u"-nogui"},
+    {u"dsda-doom", u"-save", u"dsda-doom-savegame%1.dsg", u""},
 };
 
 // The folders for games often lie outside the PATH of a desktop session.

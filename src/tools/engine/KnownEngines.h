@@ -9,6 +9,7 @@ struct KnownEngine
     QStringView program;
     QStringView saveFolderSwitch; // followed by the folder that the engine keeps its savegames in
     QStringView savegame;         // the file name of a slot's savegame there, %1 being the slot
+    QStringView quietSwitch;      // an error is printed and not shown in a window that waits; may be empty
 };
 
 // The conventions of the engine at `program`, by its base name; those of crispy-doom for an unknown one.
