@@ -59,7 +59,7 @@ void TemporaryInstallation::addBuilt(const QString& relativePath, const char* pr
     const QFileInfo source(QString::fromUtf8(program));
     const QFileInfo target(path(relativePath + QStringLiteral(PROGRAM_ENDING)));
     addFolder(QFileInfo(relativePath).path());
-    QFile::remove(path(relativePath));
+    QFile::remove(target.filePath());
     std::error_code error; // another disk takes a copy
     std::filesystem::create_hard_link(source.filesystemFilePath(), target.filesystemFilePath(), error);
     Require(!error || QFile::copy(source.filePath(), target.filePath()), relativePath);
