@@ -42,7 +42,8 @@ public:
         if (m_answers.isEmpty() && allowMessages)
             return Msg::ResultOk;
         if (m_answers.isEmpty())
-            qFatal("unexpected message: %s / %s", qPrintable(title), qPrintable(text));
+            qFatal("unexpected message: %s / %s, after: %s", qPrintable(title), qPrintable(text),
+                   qPrintable(texts.join(QStringLiteral(" / "))));
         return m_answers.takeFirst();
     }
 
