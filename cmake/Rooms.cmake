@@ -1,5 +1,5 @@
 # The rooms of src from the ground up: an include never runs up, so no two rooms include each other.
-set(floors platform ui state shell records wad start savegames catalogue iwads options music launch shortcuts
+set(floors platform engines ui state shell records wad start savegames catalogue iwads options music launch shortcuts
     app tools)
 foreach(room IN LISTS floors)
     list(APPEND below ${room})

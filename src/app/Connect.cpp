@@ -15,6 +15,7 @@
 #include "launch/LaunchButton.h"
 #include "music/Playlists.h"
 #include "options/CleanUpModels.h"
+#include "options/EngineList.h"
 #include "options/OptionEvents.h"
 #include "options/PurgeNodes.h"
 #include "options/TexturePath.h"
@@ -82,6 +83,7 @@ void ConnectControls(Launcher& launcher)
     ConnectConversion(launcher);
     ConnectRenaming(launcher);
     ConnectRemoval(launcher);
+    ConnectEngineList(launcher);
     ConnectTexturePath(launcher);
     ConnectModelCleanup(launcher);
     ConnectNodePurge(launcher);

@@ -10,6 +10,7 @@
 #include "iwads/IwadSearch.h"
 #include "music/Playlists.h"
 #include "options/DisplayResolution.h"
+#include "options/EngineList.h"
 #include "options/PackFacts.h"
 #include "platform/Paths.h"
 
@@ -112,6 +113,7 @@ void ReadFacts(Launcher& launcher)
 {
     Facts& facts = launcher.facts;
     ReadPacks(launcher);
+    ReadEngines(launcher, launcher.selection.tab == Tab::Options);
     LoadPlaylists(launcher);
     facts.resolution = GetCurrentRes(launcher.files, launcher.paths);
     BuildIwadList(facts.iwads, launcher.files, launcher.paths, launcher.environment);

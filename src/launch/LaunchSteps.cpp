@@ -21,6 +21,13 @@ QString startSwitches(const Truth& truth)
     return {};
 }
 
+// The player asked for another engine than his usual one.
+QString engineSwitch(const Truth& truth)
+{
+    const QString& engine = truth.selection.engine;
+    return engine.isEmpty() ? QString() : u"--engine \""_s + NativePath(engine) + u"\" "_s;
+}
+
 QString customText(const Settings& settings)
 {
     const QString& text = settings.CustomText;
@@ -92,7 +99,7 @@ LaunchMessage DoubleQuoteMessage()
 LaunchPlan FinishPlan(const Truth& truth, LaunchPlan plan, const QString& commandLine, GameFamily family,
                       const QStringList& names)
 {
-    const QString own = commandLine + startSwitches(truth);
+    const QString own = commandLine + startSwitches(truth) + engineSwitch(truth);
     if (canBeQuoted(truth, own, family, names))
         plan.commandLine = own + customText(truth.settings);
     else

@@ -1,6 +1,7 @@
 #include "options/OptionEvents.h"
 
 #include "catalogue/GameLists.h"
+#include "options/EngineList.h"
 #include "options/Modes.h"
 #include "options/OptionValues.h"
 #include "options/PackFacts.h"
@@ -79,4 +80,5 @@ void VisitTab(Launcher& launcher, Tab tab)
 {
     launcher.selection.tab = tab;
     ReadPacks(launcher);
+    ReadEngines(launcher, tab == Tab::Options);
 }

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QStyle>
@@ -43,6 +44,8 @@ QWidget* launcherFrame(Controls& controls, PageBinder& make)
             make.checkBox(u"chkLaunchPrefs"_s, preferences, LaunchPrefs::DisableToolTips),
             PageBinder::row(
                 {make.checkBox(u"chkVYKOpts"_s, controls.chkVYKOpts, VYKOpts::AllowHiResRelocation), folder}),
+            PageBinder::row({make.label(u"EngineLabel"_s, controls.EngineLabel),
+                             make.dropDown(u"EngineList"_s, controls.EngineList, u"Engine"_s)}),
         });
 }
 

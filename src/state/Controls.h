@@ -91,6 +91,8 @@ struct Controls
     TextBox Ricotext; // the interval of ricochets
     ControlArray<Button, Step> RicoButton;
 
+    Control EngineLabel;
+    ListBox EngineList;                            // the engines that can start the games
     ListBox cbChannels;                            // of the sound
     ListBox cbScaler;                              // how far model skins are scaled down
     ListBox SelectionList{ListBox::Order::Sorted}; // the playlists

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engines/FoundEngines.h"
 #include "platform/FileSystem.h"
 #include "state/IwadPaths.h"
 #include "ui/Control.h"
@@ -116,7 +117,9 @@ struct Facts
     GameFacts game;
     FileFacts file;
     QStringList playlists;
-    QStringList autoPlaylists; // of Doom, Doom II, Plutonia and TNT; empty without auto-playlist.vyk
+    QStringList autoPlaylists;       // of Doom, Doom II, Plutonia and TNT; empty without auto-playlist.vyk
+    bool startsOtherEngines = false; // or Bin/Keldrax is the engine itself
+    QList<FoundEngine> engines;      // ... that it can start
     ResolutionFacts resolution;
     QStringList titlePictures; // the first is the standard one
     int logicalDpi = 96;       // horizontal, of the screen

@@ -57,6 +57,7 @@ struct OptionRow
     const char16_t* caption = nullptr;
     int value = 0; // of a check box, until the settings are shown
     const char16_t* tip = nullptr;
+    const char16_t* engineSwitch = nullptr; // what the option becomes on the engine's command line
 };
 
 // All lines of config.vyk in order. The last two are absent under "/WINE".

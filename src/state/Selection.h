@@ -12,6 +12,7 @@ struct Selection
     QString filter;   // what the games in sight have in their names
     QString file;     // the chosen one of the game's files; empty when none is
     QString map;      // to start at; empty while a savegame, or a new game, is chosen
+    QString engine;   // for this start alone: its program's path; empty for the player's usual one
     QString SaveSlot; // one digit; empty when no savegame is chosen
 
     // What only developers need was asked for by a click on a hidden spot.

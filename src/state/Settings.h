@@ -96,4 +96,6 @@ struct Settings
 
     // Not in config.vyk: the folder of the player's high-resolution textures (texpath.vyk).
     QString TexturePath;
+    // Nor is this: the engine that starts the games (engine.vyk); empty for the first that is found.
+    QString Engine;
 };

@@ -87,3 +87,10 @@ QString Truth::saveGameFolder() const
     }
     return IsUsableName(name) ? u"UserSG/"_s + name + u"/savegame"_s : QString();
 }
+
+const FoundEngine* Truth::engine() const
+{
+    if (!facts.startsOtherEngines || facts.engines.isEmpty())
+        return nullptr;
+    return settings.Engine.isEmpty() ? &facts.engines.first() : EngineNamed(facts.engines, settings.Engine);
+}

@@ -42,6 +42,9 @@ struct Truth
     // sprites and graphics.
     bool isScriptedMap() const;
 
+    // The engine that starts the games, of those that were found; nullptr when there is none, or no choice.
+    const FoundEngine* engine() const;
+
     // Where the engine keeps the savegames of what is chosen, below the installation; empty when nothing is.
     QString saveGameFolder() const;
 };

@@ -64,6 +64,8 @@ void VisitControls(ControlsType& controls, Visit visit)
     one(u"butLeft2", controls.butLeft2);
     one(u"butRight2", controls.butRight2);
     each(u"RicoButton", controls.RicoButton);
+    one(u"EngineLabel", controls.EngineLabel);
+    one(u"EngineList", controls.EngineList);
     one(u"cbChannels", controls.cbChannels);
     one(u"cbScaler", controls.cbScaler);
     one(u"SelectionList", controls.SelectionList);

@@ -1,6 +1,6 @@
 #include "app/Tips.h"
+#include "engines/EngineSwitches.h"
 #include "tests/support/LauncherFixture.h"
-#include "tools/engine/EngineSwitches.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>

@@ -1,9 +1,9 @@
 // The launcher's command line turned into an engine's: lines in, lines out.
 #include "tools/engine/EngineTranslation.h"
+#include "engines/EngineFailure.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
 #include "tests/support/TemporaryInstallation.h"
-#include "tools/engine/EngineFailure.h"
 
 #include <QDir>
 #include <QProcess>
@@ -23,9 +23,14 @@ class EngineTranslationTest : public QObject
     // in brackets what is left out. A WAD of these tests holds the number of its maps.
     QString translate(const QString& line) const
     {
-        const QStringList arguments = QProcess::splitCommand(QString(line).replace(u"ROOT"_s, m_disk.root()));
         KnownEngine engine = ConventionsOf(u"crispy-doom"_s);
         engine.quietSwitch = {};
+        return translate(line, engine);
+    }
+
+    QString translate(const QString& line, const KnownEngine& engine) const
+    {
+        const QStringList arguments = QProcess::splitCommand(QString(line).replace(u"ROOT"_s, m_disk.root()));
         const EnginePlan plan = TranslateCommandLine(
             m_files, {m_disk.root(), arguments, m_environment, engine,
                       [this](const QString& path) { return m_files.read(path, 9).toInt(); }});
@@ -131,20 +136,21 @@ private Q_SLOTS:
         }
     }
 
-    void engines()
+    // What one engine has and another has not.
+    void eachEngine()
     {
-        QCOMPARE(ConventionsOf(u"/opt/Woof.exe"_s).savegame, u"woofsav%1.dsg"_s);
-        QCOMPARE(ConventionsOf(u"/opt/my-engine"_s).saveFolderSwitch, u"-savedir"_s);
-        m_disk.addBuilt(u"Engine/woof"_s, RECORDER_PROGRAM);
-        m_disk.addBuilt(u"elsewhere/crispy-doom"_s, RECORDER_PROGRAM);
-        m_environment.insert(u"PATH"_s, m_disk.nativePath(u"elsewhere"_s));
-        const auto found = [&](const QString& root) { return FindEngine(root, m_environment); };
-        QVERIFY(found(m_disk.root()).contains(u"/Engine/woof"_s));
-        QVERIFY(found(m_disk.path(u"none"_s)).contains(u"/elsewhere/crispy-doom"_s));
-        m_environment.insert(u"KELDRAX_ENGINE"_s, u"crispy-doom"_s);
-        QVERIFY(found(m_disk.root()).contains(u"/elsewhere/crispy-doom"_s));
-        m_environment.insert(u"KELDRAX_ENGINE"_s, u"no-such-engine-anywhere"_s);
-        QVERIFY_THROWS_EXCEPTION(EngineFailure, found(m_disk.root()));
+        const std::pair<QString, QString> rows[] = {
+            {u"crispy-doom"_s, u"-file %1 -savedir S -nogui -nomouse [-boom, -v, -nojoy]"_s},
+            {u"chocolate-doom"_s, u"-merge %1 -dehlump -savedir S -nogui -nomouse [-boom, -v, -nojoy]"_s},
+            {u"woof"_s, u"-file %1 -save S -nogui -complevel boom [-v, -nojoy, -nomouse]"_s},
+            {u"dsda-doom"_s, u"-file %1 -save S -complevel 9 -verbose -nojoy -nomouse []"_s},
+        };
+        for (const auto& [name, expected] : rows) {
+            const QString line =
+                translate(u"-doom2 -f Data/sfx.wad -boom -v -nojoy -nomouse"_s, ConventionsOf(name));
+            QCOMPARE(QString(line).replace(u"ROOT/UserSG/sfx/savegame"_s, u"S"_s),
+                     u"-iwad ROOT/Data/DOOM2.WAD "_s + expected.arg(u"ROOT/Data/sfx.wad"_s));
+        }
     }
 };
 

@@ -96,7 +96,7 @@ private Q_SLOTS:
             truth.settings.Skill = 1;
             truth.facts.game.files = QStringList{file};
             truth.facts.file.maps = maps;
-            truth.selection = {.filter = {}, .file = file, .map = chosen, .SaveSlot = {}};
+            truth.selection = {.filter = {}, .file = file, .map = chosen, .engine = {}, .SaveSlot = {}};
             return UpdateWarp(truth);
         };
         const QString wad = u"a.wad"_s;

@@ -33,10 +33,10 @@ Arguments ParseArguments(const QStringList& given)
 {
     const QCommandLineOption map(u"map"_s, {}, u"MAP"_s), save(u"save"_s, {}, u"SLOT"_s), newGame(u"new"_s),
         skill(u"skill"_s, {}, u"1-5"_s), dryRun(u"dry-run"_s), view(u"view"_s, {}, u"VIEW"_s),
-        root(u"root"_s, {}, u"DIR"_s), gwad(u"gwad"_s), remove(u"remove"_s),
-        help(QStringList{u"h"_s, u"help"_s});
+        root(u"root"_s, {}, u"DIR"_s), gwad(u"gwad"_s), engine(u"engine"_s, {}, u"NAME"_s),
+        remove(u"remove"_s), help(QStringList{u"h"_s, u"help"_s});
     QCommandLineParser parser;
-    parser.addOptions({map, save, newGame, skill, dryRun, view, root, gwad, remove, help});
+    parser.addOptions({map, save, newGame, skill, dryRun, view, root, gwad, engine, remove, help});
     if (!parser.parse(QStringList{u"VYKplay"_s} + given))
         return wrong(parser.errorText());
     Arguments arguments;
@@ -45,7 +45,7 @@ Arguments ParseArguments(const QStringList& given)
 
     QStringList words = parser.positionalArguments();
     if (words.isEmpty())
-        return wrong(u"Say what to do: list, maps, play, install or integrate."_s);
+        return wrong(u"Say what to do: list, maps, play, engines, install or integrate."_s);
     const QString command = words.takeFirst();
     arguments.root = parser.value(root);
     if (parser.isSet(view)) {
@@ -55,9 +55,9 @@ Arguments ParseArguments(const QStringList& given)
     }
 
     const bool playOptions = parser.isSet(map) || parser.isSet(save) || parser.isSet(newGame) ||
-                             parser.isSet(skill) || parser.isSet(dryRun);
+                             parser.isSet(skill) || parser.isSet(dryRun) || parser.isSet(engine);
     if (command != u"play" && playOptions)
-        return wrong(u"--map, --save, --new, --skill and --dry-run belong to play."_s);
+        return wrong(u"--map, --save, --new, --skill, --engine and --dry-run belong to play."_s);
 
     if (command != u"install" && parser.isSet(gwad))
         return wrong(u"--gwad belongs to install."_s);
@@ -69,6 +69,10 @@ Arguments ParseArguments(const QStringList& given)
         arguments.command = Arguments::Command::Integrate;
         arguments.remove = parser.isSet(remove);
         return words.isEmpty() ? arguments : wrong(u"integrate takes no names."_s);
+    }
+    if (command == u"engines") {
+        arguments.command = Arguments::Command::Engines;
+        return words.isEmpty() ? arguments : wrong(u"engines takes no names."_s);
     }
     if (command == u"install") {
         arguments.command = Arguments::Command::Install;
@@ -94,6 +98,7 @@ Arguments ParseArguments(const QStringList& given)
     arguments.map = parser.value(map);
     arguments.slot = parser.value(save);
     arguments.newGame = parser.isSet(newGame);
+    arguments.engine = parser.value(engine);
     arguments.dryRun = parser.isSet(dryRun);
     if (parser.isSet(map) + parser.isSet(save) + parser.isSet(newGame) > 1)
         return wrong(u"Choose one of --map, --save and --new."_s);
@@ -111,7 +116,8 @@ QString UsageText()
 {
     return u"VYKplay list [doom|installed|zips]\n"
            "VYKplay maps GAME\n"
-           "VYKplay play GAME [--map MAP | --save SLOT | --new] [--skill 1-5] [--dry-run]\n"
+           "VYKplay play GAME [--map MAP | --save SLOT | --new] [--skill 1-5] [--engine NAME] [--dry-run]\n"
+           "VYKplay engines\n"
            "VYKplay install FILE... [--gwad]\n"
            "VYKplay integrate [--remove]\n"
            "\n"
@@ -120,6 +126,7 @@ QString UsageText()
            "  --remove                    takes it out again\n"
            "  --view doom|installed|zips  where to look for GAME (else the first that has it)\n"
            "  --root DIR                  the installation (else the one this program lies in)\n"
+           "  --engine NAME               the engine for this start, of those that engines lists\n"
            "  --dry-run                   print the command line that would be started\n"
            "\n"
            "Names are without regard to case. Exit status: 0 done, 1 refused, 2 wrong usage.\n"_s;

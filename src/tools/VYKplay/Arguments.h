@@ -9,7 +9,7 @@
 // What the console program was asked for.
 struct Arguments
 {
-    enum class Command { List, Maps, Play, Install, Integrate, Help };
+    enum class Command { List, Maps, Play, Engines, Install, Integrate, Help };
 
     Command command = Command::Help;
     QString game; // of Maps and Play
@@ -21,6 +21,7 @@ struct Arguments
     bool newGame = false;
     int skill = 0; // 1 to 5; 0 as the settings say
     bool dryRun = false;
+    QString engine; // a path, or an engine's name; empty for the usual one
 
     // Of Install.
     QStringList files;

@@ -7,9 +7,11 @@
 #include "catalogue/GameLists.h"
 #include "catalogue/GameSelection.h"
 #include "catalogue/InstallGame.h"
+#include "engines/EngineFailure.h"
 #include "iwads/IwadSearch.h"
 #include "launch/LaunchButton.h"
 #include "music/Playlists.h"
+#include "options/EngineList.h"
 #include "options/PackFacts.h"
 #include "platform/DiskFileSystem.h"
 #include "platform/Paths.h"
@@ -32,8 +34,10 @@ constexpr int done = 0;
 constexpr int refused = 1;
 constexpr int wrongUsage = 2;
 
+const QString ownEngine = u"This installation starts an engine of its own."_s;
+
 // The launcher's state as its window would have loaded it, except that nothing is selected.
-void load(Launcher& launcher, QTextStream& err)
+void load(Launcher& launcher, bool withVersions, QTextStream& err)
 {
     launcher.font = LoadFontSetting(launcher.files, launcher.paths.LaunchPath + u"font.vyk"_s);
     const ReadResult result = ReadStoredSettings(launcher);
@@ -47,6 +51,7 @@ void load(Launcher& launcher, QTextStream& err)
     BuildIwadList(iwads, launcher.files, launcher.paths, launcher.environment);
     launcher.facts.iwadsOnDisk = ReadIwadFacts(iwads, launcher.files, launcher.paths, launcher.environment);
     ReadPacks(launcher);
+    ReadEngines(launcher, withVersions);
     ReadPlaylists(launcher);
 }
 
@@ -89,6 +94,40 @@ int listMaps(const Launcher& launcher, QTextStream& out)
     return done;
 }
 
+// The usual engine is marked.
+int listEngines(const Launcher& launcher, QTextStream& out, QTextStream& err)
+{
+    if (!launcher.facts.startsOtherEngines) {
+        err << ownEngine << Qt::endl;
+        return refused;
+    }
+    const FoundEngine* usual = launcher.engine();
+    for (const FoundEngine& engine : launcher.facts.engines)
+        out << (&engine == usual ? "* " : "  ") << engine.title << (engine.version.isEmpty() ? "" : " ")
+            << engine.version << '\t' << NativePath(engine.program) << Qt::endl;
+    return done;
+}
+
+// The engine for this start; false when there is no such engine.
+bool chooseEngine(Launcher& launcher, const QString& wanted, QTextStream& err)
+{
+    if (wanted.isEmpty())
+        return true;
+    if (!launcher.facts.startsOtherEngines) {
+        err << ownEngine << Qt::endl;
+        return false;
+    }
+    try {
+        launcher.selection.engine =
+            FindEngine(wanted, launcher.paths.RootPath, QProcessEnvironment::systemEnvironment()).program;
+        ShowWindow(launcher);
+        return true;
+    } catch (const EngineFailure& failure) {
+        err << failure.what() << Qt::endl;
+        return false;
+    }
+}
+
 // Chooses the start as a player's clicks would; false when the map or savegame is not there.
 bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& err)
 {
@@ -119,7 +158,7 @@ bool chooseStart(Launcher& launcher, const Arguments& arguments, QTextStream& er
 
 int play(Launcher& launcher, const Arguments& arguments, QTextStream& err)
 {
-    if (!chooseStart(launcher, arguments, err))
+    if (!chooseStart(launcher, arguments, err) || !chooseEngine(launcher, arguments.engine, err))
         return refused;
     std::optional<bool> played;
     QEventLoop firstSeconds;
@@ -169,11 +208,13 @@ int run(Launcher& launcher, const Arguments& arguments, QTextStream& out, QTextS
     }
     if (arguments.command == Arguments::Command::Integrate)
         return AddLauncherToMenu(launcher.files, MenuFolders::ofUser(), launcher.paths, err) ? done : refused;
-    load(launcher, err);
+    load(launcher, arguments.command == Arguments::Command::Engines, err);
     if (arguments.command == Arguments::Command::Install)
         return install(launcher, arguments, err);
     if (arguments.command == Arguments::Command::List)
         return listGames(launcher, arguments, out);
+    if (arguments.command == Arguments::Command::Engines)
+        return listEngines(launcher, out, err);
     if (!selectGame(launcher, arguments)) {
         err << "There is no game \"" << arguments.game << "\"." << Qt::endl;
         return refused;

@@ -1,10 +1,12 @@
 #include "tools/engine/EngineAdapter.h"
 
+#include "engines/EngineFailure.h"
+#include "engines/EngineSwitches.h"
+#include "engines/FoundEngines.h"
 #include "platform/Complain.h"
 #include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "platform/Text.h"
-#include "tools/engine/EngineFailure.h"
 #include "tools/engine/EngineSavegames.h"
 #include "tools/engine/EngineTranslation.h"
 #include "tools/wadreader/WadDirectory.h"
@@ -13,6 +15,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QProcess>
+#include <QTextStream>
 
 using namespace Qt::StringLiterals;
 
@@ -79,6 +82,27 @@ private:
     qint64 m_start = 0; // where that begins
 };
 
+// Takes "--engine NAME" out of the arguments; empty when it is not there.
+QString takeEngine(QStringList& arguments)
+{
+    const qsizetype at = arguments.indexOf(u"--engine"_s);
+    if (at < 0 || at + 1 >= arguments.size())
+        return {};
+    arguments.removeAt(at);
+    return arguments.takeAt(at);
+}
+
+// Each switch of the launcher's, and what the engine makes of it.
+void printAbilities(const FoundEngine& engine, const KnownEngine& conventions)
+{
+    QTextStream out(stdout);
+    out << AdapterMark << ": " << engine.title << ' ' << engine.program << '\n';
+    for (const EngineSwitch& known : EngineSwitches()) {
+        const QString text = InEngine(known, conventions);
+        out << known.text << '\t' << (text.isEmpty() ? u"nothing"_s : text) << '\n';
+    }
+}
+
 // Runs the engine to its end, publishing savegames meanwhile.
 int Play(const QString& program, const EnginePlan& plan, const QString& root, EngineSavegames& savegames,
          Report& report, bool reportWritten)
@@ -118,14 +142,23 @@ int Play(const QString& program, const EnginePlan& plan, const QString& root, En
 
 } // namespace
 
-int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& arguments,
+int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& given,
                      const QProcessEnvironment& environment)
 {
     Report report(files, root);
-    QStringList lines{u"Given: "_s + AsLine(arguments)};
+    QStringList lines{u"Given: "_s + AsLine(given)};
+    QStringList arguments = given;
+    QString wanted = takeEngine(arguments);
     try {
-        const QString program = FindEngine(root, environment);
+        if (wanted.isEmpty())
+            wanted = LoadEngineChoice(files, root);
+        const FoundEngine engine = FindEngine(wanted, root, environment);
+        const QString& program = engine.program;
         const KnownEngine& conventions = ConventionsOf(program);
+        if (arguments == QStringList(u"--can"_s)) {
+            printAbilities(engine, conventions);
+            return 0;
+        }
         const EnginePlan plan =
             TranslateCommandLine(files, {root, arguments, environment, conventions, MapsOf});
         lines += u"Started: "_s + AsLine(QStringList{program} + plan.arguments);

@@ -11,5 +11,8 @@
 //
 // Keldrax.out in the root tells what was given, started and left out, followed by what the engine
 // itself printed and by its exit status.
+//
+// "--engine NAME" among the arguments chooses the engine before the player's choice does; "--can" alone
+// prints what the engine makes of each switch, and starts nothing.
 int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& arguments,
                      const QProcessEnvironment& environment);

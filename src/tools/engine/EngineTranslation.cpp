@@ -1,8 +1,8 @@
 #include "tools/engine/EngineTranslation.h"
 
+#include "engines/EngineFailure.h"
+#include "engines/EngineSwitches.h"
 #include "platform/Paths.h"
-#include "tools/engine/EngineFailure.h"
-#include "tools/engine/EngineSwitches.h"
 
 #include <algorithm>
 
@@ -70,14 +70,14 @@ bool IsNumeric(SwitchValues kind)
     return kind == SwitchValues::Number || kind == SwitchValues::Map;
 }
 
-void Pass(Wishes& wishes, const EngineSwitch& row, const QStringList& values)
+void Pass(Wishes& wishes, const EngineSwitch& row, const QString& text, const QStringList& values)
 {
-    wishes.passed += row.engineText.toString();
+    wishes.passed += text.split(u' ');
     for (const QString& value : values)
         wishes.passed += IsNumeric(row.values) ? QString::number(value.toInt()) : value;
 }
 
-Wishes Read(const QStringList& arguments)
+Wishes Read(const QStringList& arguments, const KnownEngine& engine)
 {
     Wishes wishes;
     for (qsizetype at = 0; at < arguments.size();) {
@@ -89,15 +89,16 @@ Wishes Read(const QStringList& arguments)
         }
         const QStringList values = TakeValues(row->values, arguments, at);
         const bool incomplete = row->values != SwitchValues::None && values.isEmpty();
-        switch (incomplete ? SwitchUse::LeaveOut : row->use) {
+        const QString inEngine = InEngine(*row, engine);
+        switch (incomplete || inEngine.isEmpty() ? SwitchUse::LeaveOut : row->use) {
         case SwitchUse::LeaveOut:
             wishes.leftOut += AsLine(QStringList{text} + values);
             break;
         case SwitchUse::Pass:
-            Pass(wishes, *row, values);
+            Pass(wishes, *row, inEngine, values);
             break;
         case SwitchUse::NamedIwad:
-            wishes.iwadName = row->engineText.toString();
+            wishes.iwadName = row->iwad.toString();
             break;
         case SwitchUse::IwadFile:
             wishes.iwadFile = values[0];
@@ -208,7 +209,7 @@ QStringList InLoadOrder(const QStringList& data, const LoadedFiles& loaded, cons
 
 EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& request)
 {
-    const Wishes wishes = Read(request.arguments);
+    const Wishes wishes = Read(request.arguments, request.engine);
     const QString iwad = IwadOf(files, request, wishes);
     const LoadedFiles loaded = FilesOf(files, request, wishes);
 
@@ -216,7 +217,7 @@ EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& re
     plan.saveFolder = SaveFolder(files, request.root, iwad, loaded.mainWad());
     plan.leftOut = wishes.leftOut;
     plan.arguments = {u"-iwad"_s, NativePath(iwad)};
-    // Engines read the first -file alone, so all files stand behind one.
+    // Engines read the first of these switches alone, so all files stand behind one.
     QStringList data;
     for (const QString& name : wishes.dataFiles)
         try {
@@ -225,7 +226,9 @@ EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& re
             plan.leftOut += AsLine({u"-data"_s, name}) + u": "_s + QString::fromUtf8(gone.what());
         }
     if (const QStringList all = InLoadOrder(data, loaded, wishes.extraFiles); !all.isEmpty())
-        plan.arguments += QStringList{u"-file"_s} + all;
+        plan.arguments += QStringList{request.engine.fileSwitch.toString()} + all;
+    if (!request.engine.patchLumpsSwitch.isEmpty())
+        plan.arguments += request.engine.patchLumpsSwitch.toString();
     if (!loaded.patches.isEmpty())
         plan.arguments += QStringList{u"-deh"_s} + Native(loaded.patches);
     plan.arguments += {request.engine.saveFolderSwitch.toString(), NativePath(plan.saveFolder)};

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "engines/KnownEngines.h"
 #include "platform/FileSystem.h"
 #include "tools/engine/GameFiles.h"
-#include "tools/engine/KnownEngines.h"
 
 #include <QProcessEnvironment>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "tools/engine/GameFiles.h"
 
+#include "engines/EngineFailure.h"
 #include "platform/Paths.h"
-#include "tools/engine/EngineFailure.h"
 
 #include <QDir>
 #include <algorithm>

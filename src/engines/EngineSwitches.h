@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QStringView>
+#include "engines/KnownEngines.h"
+
+#include <span>
 
 // The switches that the launcher writes on the engine's command line.
 
@@ -16,7 +18,7 @@ enum class SwitchValues {
 // What becomes of a switch.
 enum class SwitchUse {
     LeaveOut,   // nothing of it in other engines
-    Pass,       // handed on, with its values, as `engineText`
+    Pass,       // handed on, with its values, as what it is in the engine
     NamedIwad,  // names one of the commercial games' IWADs
     IwadFile,   // -iwad
     GameFolder, // -udir
@@ -26,13 +28,25 @@ enum class SwitchUse {
     ExtraFiles  // -file: typed by the player, loaded after the others, but for the WAD that is played
 };
 
+// What a switch is in each engine; empty where the engine has nothing of the kind.
+struct InEngines
+{
+    QStringView crispy, chocolate, woof, dsda;
+};
+
 struct EngineSwitch
 {
     QStringView text; // compared without regard to case
     SwitchUse use;
     SwitchValues values;
-    QStringView engineText; // Pass: the switch that Doom engines share; NamedIwad: the IWAD's file name
+    InEngines engines{}; // of Pass
+    QStringView iwad{};  // of NamedIwad: its file name
 };
+
+std::span<const EngineSwitch> EngineSwitches();
+
+// What `engine` is started with in place of the switch; empty when it does nothing with it.
+QString InEngine(const EngineSwitch& known, const KnownEngine& engine);
 
 // The row of `argument`; nullptr when it is no switch of the launcher's.
 const EngineSwitch* FindEngineSwitch(QStringView argument);

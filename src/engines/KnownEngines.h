@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+enum class EngineId { Crispy, Chocolate, Woof, Dsda, Count };
+
+// What differs between the Doom engines that the adapter can start.
+struct KnownEngine
+{
+    EngineId id;
+    QStringView program;          // the base name of its file
+    QStringView title;            // as players know it
+    QStringView versionMark;      // what stands before the version in its program file
+    QStringView fileSwitch;       // loads WADs, with their sprites and flats put into the IWAD's
+    QStringView patchLumpsSwitch; // obeys the patches inside WADs; empty where it does so anyway
+    QStringView saveFolderSwitch; // followed by the folder that the engine keeps its savegames in
+    QStringView savegame;         // the file name of a slot's savegame there, %1 being the slot
+    QStringView quietSwitch;      // an error is printed and not shown in a window that waits; may be empty
+};
+
+// In the order in which one is chosen where the player did not.
+std::span<const KnownEngine> KnownEngines();
+
+// The row of the engine at `program`, by its base name; nullptr for an unknown one.
+const KnownEngine* FindKnownEngine(const QString& program);
+
+// The same, and crispy-doom's row for an unknown engine.
+const KnownEngine& ConventionsOf(const QString& program);
