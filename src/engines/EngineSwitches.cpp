@@ -61,12 +61,12 @@ constexpr EngineSwitch switches[] = {
     {u"-3d", LeaveOut, None},
     {u"-ch", LeaveOut, One},
     {u"-dsst", LeaveOut, One},
-    {u"-extmus", LeaveOut, One},
-    {u"-upm", LeaveOut, None},
+    {u"-extmus", Playlist, One},
+    {u"-upm", OwnMusic, None},
     {u"-fmodmidi", LeaveOut, None},
 
     // Play.
-    {u"-nojoy", Pass, None, {u"", u"", u"", u"-nojoy"}},
+    {u"-nojoy", Pass, None, {u"use_joystick 0", u"use_joystick 0", u"", u"-nojoy"}},
     {u"-noif1", LeaveOut, None},
     {u"-noif2", LeaveOut, None},
     {u"-gnd", LeaveOut, One},
@@ -113,6 +113,10 @@ QString InEngine(const EngineSwitch& known, const KnownEngine& engine)
     case DataFiles:
     case ExtraFiles:
         return engine.fileSwitch.toString();
+    case Playlist:
+    case OwnMusic:
+        return engine.music == MusicWay::Packs ? QStringLiteral("music_pack_path")
+                                               : engine.fileSwitch.toString();
     case Pass:
         break;
     }

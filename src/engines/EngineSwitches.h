@@ -25,10 +25,13 @@ enum class SwitchUse {
     GameFiles,  // -f
     Patches,    // -deh
     DataFiles,  // -data: loaded before the game's own files
+    Playlist,   // -extmus: the music of maps and intermissions
+    OwnMusic,   // -upm: what a game brings itself comes before the playlist
     ExtraFiles  // -file: typed by the player, loaded after the others, but for the WAD that is played
 };
 
-// What a switch is in each engine; empty where the engine has nothing of the kind.
+// What a switch is in each engine; empty where the engine has nothing of the kind. Without a "-" it is a
+// setting of its configuration file and the value.
 struct InEngines
 {
     QStringView crispy, chocolate, woof, dsda;

@@ -8,10 +8,10 @@ namespace {
 
 // clang-format off
 constexpr KnownEngine engines[] = {
-    {EngineId::Crispy, u"crispy-doom", u"Crispy Doom", u"Crispy Doom ", u"-file", u"", u"-savedir", u"doomsav%1.dsg", u"-nogui"},
-    {EngineId::Chocolate, u"chocolate-doom", u"Chocolate Doom", u"Chocolate Doom ", u"-merge", u"-dehlump", u"-savedir", u"doomsav%1.dsg", u"-nogui"},
-    {EngineId::Woof, u"woof", u"Woof", u"Woof ", u"-file", u"", u"-save", u"woofsav%1.dsg", u"-nogui"},
-    {EngineId::Dsda, u"dsda-doom", u"DSDA-Doom", u"dsda-doom v", u"-file", u"", u"-save", u"dsda-doom-savegame%1.dsg", u""},
+    {EngineId::Crispy, u"crispy-doom", u"Crispy Doom", u"Crispy Doom ", u"-file", u"", u"-savedir", u"doomsav%1.dsg", u"-nogui", MusicWay::Packs, u"crispy-doom.cfg"},
+    {EngineId::Chocolate, u"chocolate-doom", u"Chocolate Doom", u"Chocolate Doom ", u"-merge", u"-dehlump", u"-savedir", u"doomsav%1.dsg", u"-nogui", MusicWay::Packs, u"chocolate-doom.cfg"},
+    {EngineId::Woof, u"woof", u"Woof", u"Woof ", u"-file", u"", u"-save", u"woofsav%1.dsg", u"-nogui", MusicWay::Lumps, u""},
+    {EngineId::Dsda, u"dsda-doom", u"DSDA-Doom", u"dsda-doom v", u"-file", u"", u"-save", u"dsda-doom-savegame%1.dsg", u"", MusicWay::Lumps, u""},
 };
 // clang-format on
 
@@ -23,6 +23,14 @@ constexpr bool eachAtItsPlace()
     return std::size(engines) == static_cast<size_t>(EngineId::Count);
 }
 static_assert(eachAtItsPlace(), "a row stands at its engine's number");
+
+// Most engines know the oldest switches; music packs and pairs of configuration files few.
+constexpr KnownEngine unknownEngine = [] {
+    KnownEngine unknown = engines[0];
+    unknown.music = MusicWay::Lumps;
+    unknown.secondConfig = {};
+    return unknown;
+}();
 
 } // namespace
 
@@ -42,5 +50,5 @@ const KnownEngine* FindKnownEngine(const QString& program)
 const KnownEngine& ConventionsOf(const QString& program)
 {
     const KnownEngine* known = FindKnownEngine(program);
-    return known ? *known : engines[0];
+    return known ? *known : unknownEngine;
 }

@@ -6,6 +6,9 @@
 
 enum class EngineId { Crispy, Chocolate, Woof, Dsda, Count };
 
+// How an engine plays music files: by music packs, or out of a WAD's lumps.
+enum class MusicWay { Packs, Lumps };
+
 // What differs between the Doom engines that the adapter can start.
 struct KnownEngine
 {
@@ -18,6 +21,8 @@ struct KnownEngine
     QStringView saveFolderSwitch; // followed by the folder that the engine keeps its savegames in
     QStringView savegame;         // the file name of a slot's savegame there, %1 being the slot
     QStringView quietSwitch;      // an error is printed and not shown in a window that waits; may be empty
+    MusicWay music;
+    QStringView secondConfig; // beside default.cfg, where it can be told to use a pair of such files
 };
 
 // In the order in which one is chosen where the player did not.
@@ -26,5 +31,5 @@ std::span<const KnownEngine> KnownEngines();
 // The row of the engine at `program`, by its base name; nullptr for an unknown one.
 const KnownEngine* FindKnownEngine(const QString& program);
 
-// The same, and crispy-doom's row for an unknown engine.
+// The same, and for an unknown engine what most of them share.
 const KnownEngine& ConventionsOf(const QString& program);

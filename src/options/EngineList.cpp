@@ -57,7 +57,8 @@ void ShowEngineList(const Truth& truth, Controls& controls)
     const QList<FoundEngine>& engines = truth.facts.engines;
     ListBox& list = controls.EngineList;
     list.visible = controls.EngineLabel.visible = truth.facts.startsOtherEngines;
-    QList<ListEntry> entries{{u"Automatic"_s, {}}};
+    const QString automatic = engines.isEmpty() ? u"Automatic"_s : u"Automatic: "_s + engines.first().title;
+    QList<ListEntry> entries{{automatic, {}}};
     for (const FoundEngine& engine : engines)
         entries += {textOf(engine), engine.program};
     list.show(entries);

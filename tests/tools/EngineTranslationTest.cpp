@@ -70,10 +70,10 @@ private Q_SLOTS:
         const QString hell = u"\"ROOT/VYKGames/My Hell/Pwads/"_s;
         // A switch missing from the table would reach the engine as the player's own text.
         const QString useless =
-            u"-devmap, -debug_scp, -listloresfm, -fp, -ap, -am, -np, -nht, -3d, -upm, -FMODmidi, -boom, -xa, "
+            u"-devmap, -debug_scp, -listloresfm, -fp, -ap, -am, -np, -nht, -3d, -FMODmidi, -boom, -xa, "
             u"-spf, "
-            "-noamwds, -fx, -spz, -spx, -noif1, -noif2, -pbm, -dt, -nojoy, -usb, -fsb, -ro, -nc, -nws, -stx, "
-            "-c_nextmap, -mfo, -smn, -v, -txe, -lean, -txn, -ch 128, -dsst 3, -extmus b, -gnd "
+            "-noamwds, -fx, -spz, -spx, -noif1, -noif2, -pbm, -dt, -usb, -fsb, -ro, -nc, -nws, -stx, "
+            "-c_nextmap, -mfo, -smn, -v, -txe, -lean, -txn, -ch 128, -dsst 3, -gnd "
             "5, -ct 30, "
             "-txa c, -td \"C:/My textures\", -cmd \"audio-ricoh 40\" \"rend-light 1\""_s;
         const std::pair<QString, QString> rows[] = {
@@ -140,8 +140,8 @@ private Q_SLOTS:
     void eachEngine()
     {
         const std::pair<QString, QString> rows[] = {
-            {u"crispy-doom"_s, u"-file %1 -savedir S -nogui -nomouse [-boom, -v, -nojoy]"_s},
-            {u"chocolate-doom"_s, u"-merge %1 -dehlump -savedir S -nogui -nomouse [-boom, -v, -nojoy]"_s},
+            {u"crispy-doom"_s, u"-file %1 -savedir S -nogui -nomouse [-boom, -v]"_s},
+            {u"chocolate-doom"_s, u"-merge %1 -dehlump -savedir S -nogui -nomouse [-boom, -v]"_s},
             {u"woof"_s, u"-file %1 -save S -nogui -complevel boom [-v, -nojoy, -nomouse]"_s},
             {u"dsda-doom"_s, u"-file %1 -save S -complevel 9 -verbose -nojoy -nomouse []"_s},
         };

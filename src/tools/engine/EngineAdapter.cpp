@@ -103,6 +103,28 @@ void printAbilities(const FoundEngine& engine, const KnownEngine& conventions)
     }
 }
 
+// The plan with all that it needs made. What cannot be made keeps nobody from playing.
+EnginePlan Prepare(FileSystem& files, EngineRequest request, const QString& program)
+{
+    QStringList problems;
+    EnginePlan plan = TranslateCommandLine(files, request);
+    try {
+        WriteMusicPack(files, request.root, plan.music);
+    } catch (const FileError& error) {
+        problems += u"the playlist: "_s + QString::fromUtf8(error.what());
+        request.withMusic = false;
+        plan = TranslateCommandLine(files, request);
+    }
+    try {
+        plan.arguments += PrepareEngineConfig(files, request.root, program, request.engine,
+                                              request.environment, plan.settings);
+    } catch (const FileError& error) {
+        problems += u"the engine's configuration: "_s + QString::fromUtf8(error.what());
+    }
+    plan.leftOut += problems;
+    return plan;
+}
+
 // Runs the engine to its end, publishing savegames meanwhile.
 int Play(const QString& program, const EnginePlan& plan, const QString& root, EngineSavegames& savegames,
          Report& report, bool reportWritten)
@@ -159,8 +181,7 @@ int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& 
             printAbilities(engine, conventions);
             return 0;
         }
-        const EnginePlan plan =
-            TranslateCommandLine(files, {root, arguments, environment, conventions, MapsOf});
+        const EnginePlan plan = Prepare(files, {root, arguments, environment, conventions, MapsOf}, program);
         lines += u"Started: "_s + AsLine(QStringList{program} + plan.arguments);
         for (const QString& leftOut : plan.leftOut)
             lines += u"Left out: "_s + leftOut;

@@ -18,7 +18,10 @@ struct Wishes
     QString game;
     QStringList dataFiles, gameFiles, patches, extraFiles;
     QStringList passed; // for the engine as it stands
+    QList<EngineSetting> settings;
+    QString playlist;
     QStringList leftOut;
+    bool ownMusic = false; // comes before the playlist' pieces
     bool hasGame = false;
 };
 
@@ -72,6 +75,10 @@ bool IsNumeric(SwitchValues kind)
 
 void Pass(Wishes& wishes, const EngineSwitch& row, const QString& text, const QStringList& values)
 {
+    if (!text.startsWith(u'-')) {
+        wishes.settings += {text.section(u' ', 0, 0), text.section(u' ', 1).toLatin1()};
+        return;
+    }
     wishes.passed += text.split(u' ');
     for (const QString& value : values)
         wishes.passed += IsNumeric(row.values) ? QString::number(value.toInt()) : value;
@@ -115,6 +122,12 @@ Wishes Read(const QStringList& arguments, const KnownEngine& engine)
             break;
         case SwitchUse::DataFiles:
             wishes.dataFiles += values;
+            break;
+        case SwitchUse::Playlist:
+            wishes.playlist = values[0];
+            break;
+        case SwitchUse::OwnMusic:
+            wishes.ownMusic = true;
             break;
         case SwitchUse::ExtraFiles:
             wishes.extraFiles += values;
@@ -199,10 +212,24 @@ QStringList Native(QStringList paths)
 }
 
 // Of what several files hold, engines take the last: so the WAD that was chosen, whose maps the player saw,
-// comes after all the others.
-QStringList InLoadOrder(const QStringList& data, const LoadedFiles& loaded, const QStringList& extra)
+// comes after all the others; the lumps of a playlist are no map's.
+QStringList InLoadOrder(const QStringList& data, const LoadedFiles& loaded, const QStringList& extra,
+                        const QString& music, bool ownMusic)
 {
-    return Native(data + loaded.wads.mid(1)) + extra + Native(loaded.wads.first(qMin(1, loaded.wads.size())));
+    const QStringList musicWad = music.isEmpty() ? QStringList() : QStringList(NativePath(music));
+    const QStringList game =
+        Native(loaded.wads.mid(1)) + extra + Native(loaded.wads.first(qMin(1, loaded.wads.size())));
+    return Native(data) + (ownMusic ? musicWad + game : game + musicWad);
+}
+
+void addMusic(const FileSystem& files, const EngineRequest& request, const Wishes& wishes, EnginePlan& plan)
+{
+    plan.music = PlanMusicPack(files, request.root, wishes.playlist, request.engine.music);
+    for (const QString& silence : plan.music.silences)
+        plan.leftOut += AsLine({u"-extmus"_s, wishes.playlist}) + u": "_s + silence;
+    // Relative to the folder that the engine starts in: the engine cuts a long value.
+    if (!plan.music.wad.isEmpty() && request.engine.music == MusicWay::Packs)
+        plan.settings += {u"music_pack_path"_s, '"' + MusicPackFolder.toLatin1() + '"'};
 }
 
 } // namespace
@@ -216,7 +243,10 @@ EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& re
     EnginePlan plan;
     plan.saveFolder = SaveFolder(files, request.root, iwad, loaded.mainWad());
     plan.leftOut = wishes.leftOut;
+    plan.settings = wishes.settings;
     plan.arguments = {u"-iwad"_s, NativePath(iwad)};
+    if (request.withMusic && !wishes.playlist.isEmpty())
+        addMusic(files, request, wishes, plan);
     // Engines read the first of these switches alone, so all files stand behind one.
     QStringList data;
     for (const QString& name : wishes.dataFiles)
@@ -225,7 +255,8 @@ EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& re
         } catch (const EngineFailure& gone) { // a pack that was removed keeps nobody from playing
             plan.leftOut += AsLine({u"-data"_s, name}) + u": "_s + QString::fromUtf8(gone.what());
         }
-    if (const QStringList all = InLoadOrder(data, loaded, wishes.extraFiles); !all.isEmpty())
+    if (const QStringList all = InLoadOrder(data, loaded, wishes.extraFiles, plan.music.wad, wishes.ownMusic);
+        !all.isEmpty())
         plan.arguments += QStringList{request.engine.fileSwitch.toString()} + all;
     if (!request.engine.patchLumpsSwitch.isEmpty())
         plan.arguments += request.engine.patchLumpsSwitch.toString();

@@ -2,7 +2,9 @@
 
 #include "engines/KnownEngines.h"
 #include "platform/FileSystem.h"
+#include "tools/engine/EngineConfig.h"
 #include "tools/engine/GameFiles.h"
+#include "tools/engine/MusicPack.h"
 
 #include <QProcessEnvironment>
 #include <QStringList>
@@ -16,13 +18,16 @@ struct EngineRequest
     QProcessEnvironment environment;
     KnownEngine engine;
     CountMaps countMaps;
+    bool withMusic = true; // or as if no playlist were named
 };
 
 struct EnginePlan
 {
-    QStringList arguments; // what the engine is started with
-    QString saveFolder;    // where the launcher expects this game's savegames; need not exist yet
-    QStringList leftOut;   // one switch each, with its values
+    QStringList arguments;         // what the engine is started with
+    QString saveFolder;            // where the launcher expects this game's savegames; need not exist yet
+    MusicPack music;               // to be made first
+    QList<EngineSetting> settings; // which the engine's configuration needs
+    QStringList leftOut;           // one switch each, with its values
 };
 
 // Starts nothing and changes nothing. Throws EngineFailure when there is no IWAD, no such game or no
