@@ -27,7 +27,7 @@ constexpr EngineSwitch switches[] = {
 
     {u"-wp", Pass, Map, all(u"-warp")},
     {u"-sk", Pass, Number, all(u"-skill")},
-    {u"-loadgame", Pass, Number, all(u"-loadgame")},
+    {u"-loadgame", Load, Number, {u"-loadgame", u"-loadgame", u"-loadgame", u""}},
     {u"-nm", Pass, None, all(u"-nomonsters")},
     {u"-fast", Pass, None, all(u"-fast")},
     {u"-respawn", Pass, None, all(u"-respawn")},
@@ -118,6 +118,7 @@ QString InEngine(const EngineSwitch& known, const KnownEngine& engine)
         return engine.music == MusicWay::Packs ? QStringLiteral("music_pack_path")
                                                : engine.fileSwitch.toString();
     case Pass:
+    case Load:
         break;
     }
     switch (engine.id) {

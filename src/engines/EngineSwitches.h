@@ -19,6 +19,7 @@ enum class SwitchValues {
 enum class SwitchUse {
     LeaveOut,   // nothing of it in other engines
     Pass,       // handed on, with its values, as what it is in the engine
+    Load,       // the same, and a game that it is missing from would not be the chosen one
     NamedIwad,  // names one of the commercial games' IWADs
     IwadFile,   // -iwad
     GameFolder, // -udir
@@ -42,7 +43,7 @@ struct EngineSwitch
     QStringView text; // compared without regard to case
     SwitchUse use;
     SwitchValues values;
-    InEngines engines{}; // of Pass
+    InEngines engines{}; // of Pass and Load
     QStringView iwad{};  // of NamedIwad: its file name
 };
 

@@ -11,7 +11,7 @@ constexpr KnownEngine engines[] = {
     {EngineId::Crispy, u"crispy-doom", u"Crispy Doom", u"Crispy Doom ", u"-file", u"", u"-savedir", u"doomsav%1.dsg", u"-nogui", MusicWay::Packs, u"crispy-doom.cfg"},
     {EngineId::Chocolate, u"chocolate-doom", u"Chocolate Doom", u"Chocolate Doom ", u"-merge", u"-dehlump", u"-savedir", u"doomsav%1.dsg", u"-nogui", MusicWay::Packs, u"chocolate-doom.cfg"},
     {EngineId::Woof, u"woof", u"Woof", u"Woof ", u"-file", u"", u"-save", u"woofsav%1.dsg", u"-nogui", MusicWay::Lumps, u""},
-    {EngineId::Dsda, u"dsda-doom", u"DSDA-Doom", u"dsda-doom v", u"-file", u"", u"-save", u"dsda-doom-savegame%1.dsg", u"", MusicWay::Lumps, u""},
+    {EngineId::Dsda, u"dsda-doom", u"DSDA-Doom", u"dsda-doom v", u"-file", u"", u"-assign dsda_organized_saves=0 -save", u"dsda-doom-savegame%1.dsg", u"-no_message_box", MusicWay::Lumps, u""},
 };
 // clang-format on
 

@@ -18,9 +18,10 @@ struct KnownEngine
     QStringView versionMark;      // what stands before the version in its program file
     QStringView fileSwitch;       // loads WADs, with their sprites and flats put into the IWAD's
     QStringView patchLumpsSwitch; // obeys the patches inside WADs; empty where it does so anyway
-    QStringView saveFolderSwitch; // followed by the folder that the engine keeps its savegames in
-    QStringView savegame;         // the file name of a slot's savegame there, %1 being the slot
-    QStringView quietSwitch;      // an error is printed and not shown in a window that waits; may be empty
+    QStringView
+        saveFolderSwitch;    // one or more, followed by the folder that the engine keeps its savegames in
+    QStringView savegame;    // the file name of a slot's savegame there, %1 being the slot
+    QStringView quietSwitch; // an error is printed and not shown in a window that waits; may be empty
     MusicWay music;
     QStringView secondConfig; // beside default.cfg, where it can be told to use a pair of such files
 };

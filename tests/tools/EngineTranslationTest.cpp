@@ -143,7 +143,9 @@ private Q_SLOTS:
             {u"crispy-doom"_s, u"-file %1 -savedir S -nogui -nomouse [-boom, -v]"_s},
             {u"chocolate-doom"_s, u"-merge %1 -dehlump -savedir S -nogui -nomouse [-boom, -v]"_s},
             {u"woof"_s, u"-file %1 -save S -nogui -complevel boom [-v, -nojoy, -nomouse]"_s},
-            {u"dsda-doom"_s, u"-file %1 -save S -complevel 9 -verbose -nojoy -nomouse []"_s},
+            {u"dsda-doom"_s,
+             u"-file %1 -assign dsda_organized_saves=0 -save S -no_message_box -complevel 9 -verbose -nojoy "
+             "-nomouse []"_s},
         };
         for (const auto& [name, expected] : rows) {
             const QString line =
@@ -151,6 +153,9 @@ private Q_SLOTS:
             QCOMPARE(QString(line).replace(u"ROOT/UserSG/sfx/savegame"_s, u"S"_s),
                      u"-iwad ROOT/Data/DOOM2.WAD "_s + expected.arg(u"ROOT/Data/sfx.wad"_s));
         }
+        // Rather nothing than another game than the chosen one.
+        QVERIFY_THROWS_EXCEPTION(EngineFailure,
+                                 translate(u"-doom2 -loadgame 1"_s, ConventionsOf(u"dsda-doom"_s)));
     }
 };
 

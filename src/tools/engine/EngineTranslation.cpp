@@ -97,10 +97,15 @@ Wishes Read(const QStringList& arguments, const KnownEngine& engine)
         const QStringList values = TakeValues(row->values, arguments, at);
         const bool incomplete = row->values != SwitchValues::None && values.isEmpty();
         const QString inEngine = InEngine(*row, engine);
+        if (row->use == SwitchUse::Load && inEngine.isEmpty())
+            throw EngineFailure(
+                u"%1 cannot be started with a savegame. Load it in the game's own menu, or choose another engine."_s
+                    .arg(engine.title));
         switch (incomplete || inEngine.isEmpty() ? SwitchUse::LeaveOut : row->use) {
         case SwitchUse::LeaveOut:
             wishes.leftOut += AsLine(QStringList{text} + values);
             break;
+        case SwitchUse::Load:
         case SwitchUse::Pass:
             Pass(wishes, *row, inEngine, values);
             break;
@@ -262,7 +267,8 @@ EnginePlan TranslateCommandLine(const FileSystem& files, const EngineRequest& re
         plan.arguments += request.engine.patchLumpsSwitch.toString();
     if (!loaded.patches.isEmpty())
         plan.arguments += QStringList{u"-deh"_s} + Native(loaded.patches);
-    plan.arguments += {request.engine.saveFolderSwitch.toString(), NativePath(plan.saveFolder)};
+    plan.arguments +=
+        request.engine.saveFolderSwitch.toString().split(u' ') + QStringList(NativePath(plan.saveFolder));
     if (!request.engine.quietSwitch.isEmpty())
         plan.arguments += request.engine.quietSwitch.toString();
     plan.arguments += wishes.passed;
