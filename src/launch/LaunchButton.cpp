@@ -32,7 +32,7 @@ void reportFailure(Launcher& launcher, const QString& lastWords)
     if (!lastWords.isEmpty())
         text += QString(lastWords).replace(u'\n', u"\r\n"_s) + u"\r\n\r\n"_s;
     text += u"The file Keldrax.out may tell more. Without a Doom engine nothing can be played:    \r\n"
-            "install one or put one into the folder Engine.    "_s;
+            "install one, put one into the folder Engine, or choose another one on the tab Options.    "_s;
     show(launcher.prompts, {text, u" Launch error"_s});
 }
 

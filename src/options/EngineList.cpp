@@ -3,7 +3,6 @@
 #include "platform/Paths.h"
 
 #include <QProcessEnvironment>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -37,19 +36,15 @@ void ReadEngines(Launcher& launcher, bool withVersions)
 {
     Facts& facts = launcher.facts;
     const QString& root = launcher.paths.RootPath;
-    const QList<FoundEngine> former = facts.engines;
     facts.startsOtherEngines = StartsOtherEngines(launcher.files, root);
     facts.engines.clear();
     launcher.settings.Engine = LoadEngineChoice(launcher.files, root);
     if (!facts.startsOtherEngines)
         return;
     facts.engines = FindEngines(root, QProcessEnvironment::systemEnvironment());
-    for (FoundEngine& engine : facts.engines) {
-        if (const FoundEngine* known = EngineNamed(former, engine.program))
-            engine.version = known->version;
-        if (withVersions && engine.version.isEmpty())
+    if (withVersions)
+        for (FoundEngine& engine : facts.engines)
             engine.version = VersionOf(launcher.files, engine.program);
-    }
 }
 
 void ShowEngineList(const Truth& truth, Controls& controls)
