@@ -193,6 +193,12 @@ void MainForm::copyText(const QString& text)
     QGuiApplication::clipboard()->setText(text);
 }
 
+void MainForm::closeLauncher()
+{
+    UnloadMainWindow(*m_launcher);
+    endProgram();
+}
+
 void MainForm::endProgram()
 {
     QCoreApplication::exit(0);
@@ -302,9 +308,8 @@ void MainForm::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    UnloadMainWindow(*m_launcher);
     event->accept();
-    endProgram();
+    closeLauncher();
 }
 
 void MainForm::dragEnterEvent(QDragEnterEvent* event)

@@ -40,6 +40,7 @@ public:
     void showMusicForm(PlaylistEditor& editor) override;
     void copyText(const QString& text) override;
     int logicalDpi() const override { return logicalDpiX(); }
+    void closeLauncher() override;
     void endProgram() override;
 
 protected:

@@ -7,6 +7,7 @@
 #include "platform/HeapSettings.h"
 #include "platform/SingleInstance.h"
 #include "platform/SystemProcesses.h"
+#include "platform/Termination.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -60,5 +61,6 @@ int main(int argc, char** argv)
         .showTips = [&window] { window.showTips(); },
     };
     const QString arguments = QApplication::arguments().mid(1).join(u' ');
+    OnTermination([&window] { window.closeLauncher(); });
     return Main(launcher, arguments, services) == StartResult::Running ? QApplication::exec() : 0;
 }

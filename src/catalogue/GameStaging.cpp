@@ -1,5 +1,6 @@
 #include "catalogue/GameStaging.h"
 
+#include "platform/Locks.h"
 #include "platform/Paths.h"
 
 #include <QFileInfo>
@@ -117,9 +118,9 @@ GameStaging::GameStaging(FileSystem& files, const QString& gamesPath)
       m_work(workFolder(m_games)),
       m_lock(lockPath(m_games))
 {
-    m_lock.setStaleLockTime(0); // however long it takes
-    if (!m_lock.tryLock() && m_lock.error() == QLockFile::LockFailedError)
-        throw FileError(FileError::Kind::InUse, m_games, u"another launcher installs a game"_s);
+    constexpr int aLittle = 2000; // milliseconds
+    if (!TakeLock(m_lock, aLittle) && m_lock.error() == QLockFile::LockFailedError)
+        throw FileError(FileError::Kind::Held, m_games, HolderOf(m_lock));
     recover(m_files, m_games);
 }
 
@@ -215,6 +216,15 @@ void GameStaging::addToFolder(const QString& target)
     }
 }
 
+bool ReportHeld(Prompts& prompts, const FileError& error)
+{
+    if (error.isHeld())
+        prompts.MsgboxPos(u" Another game is being installed, try again when that has ended.    \r\n "_s +
+                              error.detail(),
+                          Msg::Ok + Msg::Information, u" Installation error"_s);
+    return error.isHeld();
+}
+
 bool IsReservedGameName(const QString& name)
 {
     return SameName(name, workName) || SameName(name, lockName);
@@ -227,7 +237,6 @@ void RecoverGames(FileSystem& files, const QString& gamesPath)
     if (games == u"/" || !QFileInfo(workFolder(games)).isDir())
         return;
     QLockFile lock(lockPath(games));
-    lock.setStaleLockTime(0);
-    if (lock.tryLock())
+    if (TakeLock(lock, 0))
         recover(files, games);
 }

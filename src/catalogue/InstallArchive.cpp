@@ -91,6 +91,8 @@ void InstallArchiveAsPwad(Launcher& launcher)
         else
             staging.placeAsNewGame();
     } catch (const FileError& error) {
+        if (ReportHeld(launcher.prompts, error))
+            return;
         launcher.prompts.MsgboxPos(error.isDenied() ? u" Read only error, file can't be overwritten     "_s
                                                     : u" Unknown error     "_s,
                                    Msg::Ok + Msg::Critical, conversionError);

@@ -49,6 +49,8 @@ Installed checkFile(Prompts& prompts, const QString& path)
 
 void reportFailure(Prompts& prompts, const FileError& error)
 {
+    if (ReportHeld(prompts, error))
+        return;
     const QString text = error.isDenied() ? u" Read only error, file can't be overwritten      "_s
                                           : u" Unknown error, Pwad can not be installed      "_s;
     prompts.MsgboxPos(text, Msg::Ok + Msg::Information, installError);
@@ -154,6 +156,8 @@ Installed InstallAsGwad(Launcher& launcher, const QString& name,
         else
             staging.placeInGame();
     } catch (const FileError& error) {
+        if (ReportHeld(launcher.prompts, error))
+            return Installed::Refused;
         if (error.isDenied())
             launcher.prompts.MsgboxPos(u" Read only error, file can't be overwritten      "_s,
                                        Msg::Ok + Msg::Information, conversionError);

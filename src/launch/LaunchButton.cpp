@@ -49,7 +49,7 @@ LaunchResult start(Launcher& launcher, const QString& commandLine,
     const ProgramWatch watch{.settled =
                                  [&launcher, mode, known] {
                                      if (mode == LaunchMode::Exit)
-                                         ShutDownLauncher(launcher);
+                                         launcher.window.closeLauncher();
                                      if (known)
                                          known(true);
                                  },

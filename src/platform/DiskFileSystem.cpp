@@ -167,7 +167,8 @@ void Replace(const QString& wanted, const std::function<void(QSaveFile&)>& fill)
         Fail(path, file);
     fill(file);
     ClearSystemError();
-    if (!file.commit())
+    // commit() does not tell that the last bytes found no room.
+    if (!file.flush() || !file.commit())
         Fail(path, file);
 }
 

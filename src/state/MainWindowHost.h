@@ -45,6 +45,9 @@ public:
 
     virtual int logicalDpi() const = 0; // horizontal, of the screen; 96 where nothing is scaled
 
+    // Closes the launcher as the player does: the settings are saved, the program ends.
+    virtual void closeLauncher() = 0;
+
     // Ends the program; the call returns and the caller must do nothing more.
     virtual void endProgram() = 0;
 };

@@ -199,6 +199,26 @@ private Q_SLOTS:
         }
     }
 
+    // Only a living holder keeps others waiting, and then it is said who that is.
+    void locks()
+    {
+        const QString lock = u"VYKGames/.installing.lock"_s;
+        for (const char* dead : {"", "123\nVYKlauncher\nanother-machine\n\n\n"}) {
+            Library library;
+            library.installation.add(lock, dead);
+            QCOMPARE(library.install(u"Downloads/Pack.zip"_s), Installed::Done);
+        }
+        Library library;
+        QLockFile held(library.path(lock));
+        QVERIFY(held.lock());
+        library.prompts.expectMessage();
+        QCOMPARE(library.install(u"Downloads/Pack.zip"_s), Installed::Refused);
+        QVERIFY(
+            library.prompts.texts.last().contains(u"process %1"_s.arg(QCoreApplication::applicationPid())));
+        held.unlock();
+        QCOMPARE(library.install(u"Downloads/Pack.zip"_s), Installed::Done);
+    }
+
     void badZips()
     {
         Library library;

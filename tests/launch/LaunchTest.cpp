@@ -176,8 +176,7 @@ private Q_SLOTS:
         QCOMPARE(launcher.settings.LastLaunchMode, static_cast<int>(LaunchMode::Exit));
         QCOMPARE(game.window.calls, QStringList());
         game.processes.watches.last().settled();
-        QCOMPARE(game.window.calls, (QStringList{u"hide"_s, u"endProgram"_s}));
-        QVERIFY(launcher.startUp.ShuttingDown);
+        QCOMPARE(game.window.calls, QStringList(u"closeLauncher"_s));
     }
 
     // What is missing or does not agree is switched off, with its message, and the game starts.

@@ -5,8 +5,10 @@
 
 #include <QFile>
 #include <QTest>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,6 +57,40 @@ private Q_SLOTS:
         m_files.removeTree(at(u"Pack/SUB"_s));
         QCOMPARE(m_disk.tree().filter(u"/"_s).join(u' '), u"Elsewhere/big Pack/NOTHING Pack/a"_s);
         QCOMPARE(counted(u"Pack"_s), u"1 2 5"_s);
+    }
+
+    // Not a byte of the old file is lost, however large the new one is.
+    void aFullDisk()
+    {
+        constexpr rlim_t room = 1000;
+        m_disk.add(u"large"_s, QByteArray(100000, 'x'));
+        rlimit before = {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const auto former = std::signal(SIGXFSZ, SIG_IGN);
+        for (const qsizetype size : {room + 1, room * 9, room * 17, room * 100}) {
+            m_disk.add(u"old"_s, "old");
+            const QByteArray bytes(size, 'n');
+            const rlimit full = {room, before.rlim_max};
+            QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
+            const auto fails = [](const auto& write) {
+                try {
+                    write();
+                    return false;
+                } catch (const FileError&) {
+                    return true;
+                }
+            };
+            const bool allFail = fails([&] { m_files.write(at(u"old"_s), bytes); }) &&
+                                 fails([&] { m_files.copy(at(u"large"_s), at(u"old"_s)); });
+            QByteArray left = bytes;
+            const bool createFails =
+                fails([&] { m_files.create(at(u"new"_s), [&] { return std::exchange(left, {}); }, {}); });
+            QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+            QVERIFY(allFail && createFails);
+            QCOMPARE(m_disk.read(u"old"_s), "old");
+            QCOMPARE(m_disk.tree().filter(u"old"_s).size() + m_disk.tree().filter(u"new"_s).size(), 1);
+        }
+        std::signal(SIGXFSZ, former);
     }
 
     void lockedFiles()

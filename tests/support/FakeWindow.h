@@ -39,6 +39,7 @@ public:
     }
     void copyText(const QString& text) override { copied = text; }
     int logicalDpi() const override { return dpi; }
+    void closeLauncher() override { record(u"closeLauncher"); }
     void endProgram() override { record(u"endProgram"); }
 
     QSize screen{1920, 1080};

@@ -52,6 +52,7 @@ public:
     void showMusicForm(PlaylistEditor&) override {}
     void copyText(const QString&) override {}
     int logicalDpi() const override { return 96; }
+    void closeLauncher() override {}
     void endProgram() override {}
 };
 

@@ -4,6 +4,7 @@
 #include "engines/EngineSwitches.h"
 #include "engines/FoundEngines.h"
 #include "platform/Complain.h"
+#include "platform/Locks.h"
 #include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "platform/Text.h"
@@ -190,11 +191,13 @@ int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& 
         const QString saveFolder = files.actualPath(plan.saveFolder);
         // A second game may run in the same folder: the one that came first tidies up.
         QLockFile lock(saveFolder + u"/Keldrax.lock"_s);
-        lock.setStaleLockTime(0);
-        const bool first = lock.tryLock(0);
+        const bool first = TakeLock(lock, 0);
         EngineSavegames savegames(files, saveFolder, conventions.savegame.toString());
-        if (first)
-            savegames.present();
+        first ? savegames.present() : savegames.presentMissing();
+        // An engine that finds its slots empty saves over what lies in them.
+        if (!savegames.problems().isEmpty())
+            throw EngineFailure(u"The savegames could not be made ready, so the game was not started. "_s +
+                                savegames.problems().join(u' '));
 
         const bool reportWritten = report.rewrite(lines);
         const int status = Play(program, plan, root, savegames, report, reportWritten);

@@ -66,6 +66,15 @@ void EngineSavegames::present()
     });
 }
 
+void EngineSavegames::presentMissing()
+{
+    forEachSlot([this](int slot) {
+        if (m_files.fileExists(publishedFile(slot)) && !m_files.fileExists(engineFile(slot)))
+            m_files.copy(publishedFile(slot), engineFile(slot));
+        m_seen[slot] = m_files.modified(engineFile(slot));
+    });
+}
+
 void EngineSavegames::publish()
 {
     forEachSlot([this](int slot) {

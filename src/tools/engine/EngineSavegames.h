@@ -20,6 +20,9 @@ public:
     // becomes KeldraxSav<slot>.old. Then every savegame is copied to the engine's name.
     void present();
 
+    // The same while another game runs in the folder: copies only what the engine has no file of.
+    void presentMissing();
+
     // Publishes what the engine wrote since the last call. Cheap when it wrote nothing.
     void publish();
 

@@ -1,0 +1,3 @@
+#include "platform/Termination.h"
+
+void OnTermination(const std::function<void()>&) {}
