@@ -15,7 +15,7 @@ struct MusicLump
 {
     QString name;
     QString file;      // its music; empty for silence
-    qint64 size;       // of that file, in bytes
+    qint64 size = 0;   // of that file, in bytes
     QByteArray silent; // what stands in its place where the file itself cannot: a Standard MIDI File
 };
 
