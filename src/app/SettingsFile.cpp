@@ -56,9 +56,10 @@ QString inOneLine(QString text)
 
 ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withPosition)
 {
+    ReadResult result = ReadResult::Complete;
     for (const OptionRow& row : rowsOfFile(withPosition)) {
         if (row.line > lines.size())
-            return ReadResult::Stopped;
+            return result == ReadResult::Faulty ? result : ReadResult::Stopped;
         const QString& line = lines.at(row.line - 1);
         if (const auto* text = std::get_if<QString Settings::*>(&row.member)) {
             settings.** text = line;
@@ -67,14 +68,16 @@ ReadResult ReadSettings(Settings& settings, const QStringList& lines, bool withP
         const std::optional<double> number = numberOf(line);
         if (!number)
             return ReadResult::Corrupt;
-        if (!fits(*number, row.kind))
-            return ReadResult::Stopped;
+        if (!fits(*number, row.kind)) {
+            result = ReadResult::Faulty;
+            continue;
+        }
         if (const auto* flag = std::get_if<bool Settings::*>(&row.member))
             settings.** flag = *number != 0;
         else
             settings.*std::get<int Settings::*>(row.member) = static_cast<int>(*number);
     }
-    return ReadResult::Complete;
+    return result;
 }
 
 QStringList SettingsLines(const Settings& settings, bool withPosition)

@@ -8,7 +8,8 @@
 
 enum class ReadResult {
     Complete,
-    Stopped, // the lines ended early or a number was out of range: the rest keeps what it had
+    Stopped, // the lines ended early: the rest keeps what it had
+    Faulty,  // a number was out of range, and its setting keeps what it had; all others were read
     Corrupt, // a number or flag line is no number
 };
 

@@ -47,7 +47,7 @@ QString ConfigPath(const Launcher& launcher)
     return launcher.paths.LaunchPath + u"config.vyk"_s;
 }
 
-void SetConfigAside(Launcher& launcher)
+void KeepConfigBeside(Launcher& launcher)
 {
     const QString path = ConfigPath(launcher);
     if (!launcher.files.fileExists(path))
@@ -56,7 +56,12 @@ void SetConfigAside(Launcher& launcher)
     for (int number = 2; launcher.files.fileExists(copy); ++number)
         copy = path + u".bak"_s + QString::number(number);
     launcher.files.copy(path, copy);
-    launcher.files.remove(path);
+}
+
+void SetConfigAside(Launcher& launcher)
+{
+    KeepConfigBeside(launcher);
+    launcher.files.remove(ConfigPath(launcher));
 }
 
 void UseDefaultSettings(Launcher& launcher)
@@ -114,8 +119,11 @@ void CorrectSettings(Settings& settings)
 
 void LoadSettings(Launcher& launcher)
 {
-    if (ReadStoredSettings(launcher) == ReadResult::Corrupt)
+    const ReadResult result = ReadStoredSettings(launcher);
+    if (result == ReadResult::Corrupt)
         reportCorruptConfig(launcher);
+    if (result == ReadResult::Faulty)
+        KeepConfigBeside(launcher); // the next save writes it without its faults
     CorrectSettings(launcher.settings);
 }
 

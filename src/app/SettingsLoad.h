@@ -7,8 +7,10 @@
 
 QString ConfigPath(const Launcher& launcher);
 
-// Keeps a copy of config.vyk beside it ("config.vyk.bak", then "config.vyk.bak2", ...) and deletes it.
-// Throws FileError; then config.vyk is as it was.
+// Keeps a copy of config.vyk beside it: "config.vyk.bak", then "config.vyk.bak2", ... Throws FileError.
+void KeepConfigBeside(Launcher& launcher);
+
+// The same, and deletes config.vyk. Throws FileError; then config.vyk is as it was.
 void SetConfigAside(Launcher& launcher);
 
 // Sets the defaults and reads texpath.vyk, archives.vyk and config.vyk; changes no file. What a corrupt

@@ -61,7 +61,7 @@ void rememberFolder(Launcher& launcher)
 {
     try {
         WriteLines(launcher.files, launcher.paths.LaunchDataPath + u"pwads.vyk"_s,
-                   {NativePath(launcher.session.LastInstallFolder)});
+                   {AsField(NativePath(launcher.session.LastInstallFolder))});
     } catch (const FileError&) {
     }
 }

@@ -39,12 +39,6 @@ QStringList readLines(const FileSystem& files, const QString& path)
     return lines;
 }
 
-// A name with a comma is one field only in quotes.
-QString asField(const QString& name)
-{
-    return name.contains(u',') ? u'"' + name + u'"' : name;
-}
-
 } // namespace
 
 QStringList ReadAutoPlaylists(const FileSystem& files, const InstallationPaths& paths)
@@ -68,7 +62,7 @@ QString GetAutoPlaylist(const Facts& facts, GameFamily family)
 void SetAutoPlaylist(FileSystem& files, const InstallationPaths& paths, const QString& name, AutoGame game)
 {
     QStringList lines = files.fileExists(pathOf(paths)) ? readLines(files, pathOf(paths)) : initialLines;
-    lines[static_cast<int>(game) + 1] = asField(name);
+    lines[static_cast<int>(game) + 1] = AsField(name);
     files.createFolder(paths.MusicLaunchPath);
     WriteLines(files, pathOf(paths), lines);
 }

@@ -131,12 +131,18 @@ QStringList FieldsOf(const QString& text)
 
 QString FirstField(const QString& line)
 {
-    return Plain(line.section(u',', 0, 0));
+    return Plain(line.first(EndOfField(line, 0)));
+}
+
+QString AsField(const QString& text)
+{
+    return text.contains(u',') ? u'"' + text + u'"' : text;
 }
 
 QStringList ReadLines(const FileSystem& files, const QString& path)
 {
-    return LinesOf(FromAnsi(files.read(path)));
+    constexpr qint64 largest = 1024 * 1024; // bytes: the launcher's own files are much smaller
+    return LinesOf(FromAnsi(files.read(path, largest)));
 }
 
 void WriteLines(FileSystem& files, const QString& path, const QStringList& lines)

@@ -20,10 +20,14 @@ QStringList LinesOf(const QString& text);
 // enclosing double quotes removed; inside quotes a comma is part of the field. Empty lines give no field.
 QStringList FieldsOf(const QString& text);
 
-// The first field of a line: the text up to its first comma, trimmed, without enclosing quotes.
+// A text as a field that is read back whole: in double quotes where it holds a comma.
+QString AsField(const QString& text);
+
+// The first field of a line: the text up to its first comma outside quotes, trimmed, without enclosing
+// quotes.
 QString FirstField(const QString& line);
 
-// The lines of a file. Throws FileError.
+// The lines of a file, up to its first mebibyte. Throws FileError.
 QStringList ReadLines(const FileSystem& files, const QString& path);
 
 // Writes the lines, each followed by CR LF, atomically. Throws FileError.

@@ -115,7 +115,8 @@ void GameRecords::SaveGwadSelection()
     const QString file = m_truth.chosenFile();
     if (file.isEmpty())
         return;
-    writeRecord(m_files, recordPath(m_info + u"Gwads/"_s, m_truth.facts.game.name, u".vykg"_s), {file});
+    writeRecord(m_files, recordPath(m_info + u"Gwads/"_s, m_truth.facts.game.name, u".vykg"_s),
+                {AsField(file)});
     const QString map = m_truth.chosenMap();
     if (!m_truth.settings.RememberLastMap || map.isEmpty())
         return;
@@ -135,7 +136,11 @@ void GameRecords::SaveGwadSelection()
 
 QString GameRecords::gwadFile() const
 {
-    return readRecord(m_files, recordPath(m_info + u"Gwads/"_s, m_truth.facts.game.name, u".vykg"_s));
+    const QString line =
+        recordLines(m_files, recordPath(m_info + u"Gwads/"_s, m_truth.facts.game.name, u".vykg"_s)).value(0);
+    // Older records have no quotes around a name with a comma.
+    const bool isName = m_truth.facts.game.files.contains(line, Qt::CaseInsensitive);
+    return isName ? line : FirstField(line);
 }
 
 QString GameRecords::LastSavegame() const

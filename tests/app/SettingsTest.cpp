@@ -68,17 +68,17 @@ private Q_SLOTS:
             {43, u"-1", Complete, u" 1 "},
             {43, u"0.5", Complete, u" 0 "},
             {40, u"", Corrupt, u" 1 "},
-            {43, u"32768", Stopped, u" 0 "},
+            {43, u"32768", Faulty, u" 0 "},
             {75, u" 1 2 ", Complete, u" 12 "},
             {75, u"-9.1", Complete, u"-10 "},
             {75, u"2e3", Complete, u" 2000 "},
             {75, u"-32768", Complete, u"-32768 "},
-            {75, u"-32769", Stopped, u" 4 "},
-            {75, u"1e999", Stopped, u" 4 "},
+            {75, u"-32769", Faulty, u" 4 "},
+            {75, u"1e999", Faulty, u" 4 "},
             {75, u"nan", Corrupt, u" 4 "},
             {75, u"0x10", Corrupt, u" 4 "},
             {83, u"-70000", Complete, u"-70000 "},
-            {4, u"2147483648", Stopped, u" 0 "},
+            {4, u"2147483648", Faulty, u" 0 "},
         };
         for (const auto& row : rows) {
             QStringList lines = SettingsLines(DefaultSettings(), true);
@@ -90,7 +90,7 @@ private Q_SLOTS:
             QCOMPARE(ReadSettings(settings, lines, true), row.result);
             QCOMPARE(SettingsLines(settings, true).at(row.line - 1), QString::fromUtf16(row.stored));
             QCOMPARE(settings.LastSkill, 3);
-            QCOMPARE(settings.ReservedText81 == u"below"_s, row.line < 81 && row.result == Complete);
+            QCOMPARE(settings.ReservedText81 == u"below"_s, row.line < 81 && row.result != Corrupt);
         }
     }
 
@@ -160,6 +160,21 @@ private Q_SLOTS:
         QCOMPARE(f.launcher.settings.PlaylistName, u"kept"_s);
         QCOMPARE(f.launcher.settings.CustomText, u"-warp  1"_s);
         QCOMPARE(f.launcher.settings.AudioChannels, 48);
+    }
+
+    // A number out of range costs its own line, and the file is there as it was.
+    void faultyFile()
+    {
+        LauncherFixture f;
+        const QByteArray faulty = f.configWith({{5, u"70000"_s}, {73, u"kept"_s}});
+        f.setConfig(faulty);
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.AudioChannels, 128);
+        QCOMPARE(f.launcher.settings.PlaylistName, u"kept"_s);
+        SaveSettings(f.launcher);
+        QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), faulty);
+        LoadSettings(f.launcher);
+        QVERIFY(!f.installation.exists(u"VYKLaunch/config.vyk.bak2"_s));
     }
 
     void corruptFile()

@@ -179,6 +179,29 @@ private Q_SLOTS:
         QCOMPARE(game.window.calls, QStringList(u"closeLauncher"_s));
     }
 
+    // What was played last is chosen again, whatever its name and however old its record.
+    void aCommaInAName()
+    {
+        CommercialGame game;
+        const QString file = u"Maps, part 2.wad"_s;
+        game.addWad(u"VYKGames/Auto/Gwads/"_s + file, {u"MAP01"_s});
+        game.addWad(u"VYKGames/Auto/Gwads/z.wad"_s, {u"MAP01"_s, u"MAP02"_s});
+        game.load();
+        game.show(View::InstalledGames);
+        game.selectGame(u"Auto"_s);
+        game.pickFile(file);
+        press(game);
+        const QString record = u"VYKLaunch/GameInfo/Gwads/auto.vykg"_s;
+        QCOMPARE(game.installation.read(record), "\"Maps, part 2.wad\"\r\n");
+        for (const QByteArray& line : {game.installation.read(record), "Maps, part 2.wad\r\n"_ba}) {
+            game.pickFile(u"z.wad"_s);
+            game.installation.add(record, line);
+            game.show(View::DoomGames);
+            game.show(View::InstalledGames);
+            QCOMPARE(game.launcher.chosenFile(), file);
+        }
+    }
+
     // What is missing or does not agree is switched off, with its message, and the game starts.
     void repairsOptions()
     {
