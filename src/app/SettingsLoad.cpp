@@ -40,6 +40,15 @@ void reportCorruptConfig(Launcher& launcher)
     ShutDownLauncher(launcher);
 }
 
+// The next save writes it without its faults. One that cannot be kept stops no start.
+void keepFaultyConfig(Launcher& launcher)
+{
+    try {
+        KeepConfigBeside(launcher);
+    } catch (const FileError&) {
+    }
+}
+
 } // namespace
 
 QString ConfigPath(const Launcher& launcher)
@@ -123,7 +132,7 @@ void LoadSettings(Launcher& launcher)
     if (result == ReadResult::Corrupt)
         reportCorruptConfig(launcher);
     if (result == ReadResult::Faulty)
-        KeepConfigBeside(launcher); // the next save writes it without its faults
+        keepFaultyConfig(launcher);
     CorrectSettings(launcher.settings);
 }
 

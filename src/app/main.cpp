@@ -61,6 +61,8 @@ int main(int argc, char** argv)
         .showTips = [&window] { window.showTips(); },
     };
     const QString arguments = QApplication::arguments().mid(1).join(u' ');
-    OnTermination([&window] { window.closeLauncher(); });
-    return Main(launcher, arguments, services) == StartResult::Running ? QApplication::exec() : 0;
+    if (Main(launcher, arguments, services) != StartResult::Running)
+        return 0;
+    OnTermination([&window] { window.closeLauncher(); }); // the settings to save are loaded only now
+    return QApplication::exec();
 }

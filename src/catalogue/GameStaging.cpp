@@ -216,15 +216,6 @@ void GameStaging::addToFolder(const QString& target)
     }
 }
 
-bool ReportHeld(Prompts& prompts, const FileError& error)
-{
-    if (error.isHeld())
-        prompts.MsgboxPos(u" Another game is being installed, try again when that has ended.    \r\n "_s +
-                              error.detail(),
-                          Msg::Ok + Msg::Information, u" Installation error"_s);
-    return error.isHeld();
-}
-
 bool IsReservedGameName(const QString& name)
 {
     return SameName(name, workName) || SameName(name, lockName);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/FileSystem.h"
-#include "ui/Prompts.h"
 
 #include <QLockFile>
 #include <functional>
@@ -45,9 +44,6 @@ private:
     QString m_kind;
     QLockFile m_lock;
 };
-
-// Tells the player when the failure is that another launcher installs a game, and which; false for any other.
-bool ReportHeld(Prompts& prompts, const FileError& error);
 
 // True for the names that an installation uses beside the games: no game can have them.
 bool IsReservedGameName(const QString& name);

@@ -68,6 +68,15 @@ void rememberFolder(Launcher& launcher)
 
 } // namespace
 
+bool ReportHeld(Prompts& prompts, const FileError& error)
+{
+    if (error.isHeld())
+        prompts.MsgboxPos(u" Another game is being installed, try again when that has ended.    \r\n "_s +
+                              error.detail(),
+                          Msg::Ok + Msg::Information, u" Installation error"_s);
+    return error.isHeld();
+}
+
 bool InstallGameFromFile(Launcher& launcher)
 {
     QString& LastInstallFolder = launcher.session.LastInstallFolder;

@@ -115,25 +115,14 @@ QString InEngine(const EngineSwitch& known, const KnownEngine& engine)
         return engine.fileSwitch.toString();
     case Playlist:
     case OwnMusic:
-        return engine.music == MusicWay::Packs ? QStringLiteral("music_pack_path")
-                                               : engine.fileSwitch.toString();
+        return engine.music == MusicWay::None    ? QString()
+               : engine.music == MusicWay::Packs ? QStringLiteral("music_pack_path")
+                                                 : engine.fileSwitch.toString();
     case Pass:
     case Load:
         break;
     }
-    switch (engine.id) {
-    case EngineId::Crispy:
-        return known.engines.crispy.toString();
-    case EngineId::Chocolate:
-        return known.engines.chocolate.toString();
-    case EngineId::Woof:
-        return known.engines.woof.toString();
-    case EngineId::Dsda:
-        return known.engines.dsda.toString();
-    case EngineId::Count:
-        break;
-    }
-    return {};
+    return known.engines[static_cast<size_t>(engine.id)].toString();
 }
 
 const EngineSwitch* FindEngineSwitch(QStringView argument)

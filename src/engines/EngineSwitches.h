@@ -2,6 +2,7 @@
 
 #include "engines/KnownEngines.h"
 
+#include <array>
 #include <span>
 
 // The switches that the launcher writes on the engine's command line.
@@ -31,12 +32,9 @@ enum class SwitchUse {
     ExtraFiles  // -file: typed by the player, loaded after the others, but for the WAD that is played
 };
 
-// What a switch is in each engine; empty where the engine has nothing of the kind. Without a "-" it is a
-// setting of its configuration file and the value.
-struct InEngines
-{
-    QStringView crispy, chocolate, woof, dsda;
-};
+// What a switch is in each engine, in the order of EngineId; empty where the engine has nothing of the kind.
+// Without a "-" it is a setting of its configuration file and the value.
+using InEngines = std::array<QStringView, static_cast<size_t>(EngineId::Count)>;
 
 struct EngineSwitch
 {

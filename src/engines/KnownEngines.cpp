@@ -27,7 +27,7 @@ static_assert(eachAtItsPlace(), "a row stands at its engine's number");
 // Most engines know the oldest switches; music packs and pairs of configuration files few.
 constexpr KnownEngine unknownEngine = [] {
     KnownEngine unknown = engines[0];
-    unknown.music = MusicWay::Lumps;
+    unknown.music = MusicWay::None;
     unknown.secondConfig = {};
     return unknown;
 }();

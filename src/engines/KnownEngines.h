@@ -6,8 +6,8 @@
 
 enum class EngineId { Crispy, Chocolate, Woof, Dsda, Count };
 
-// How an engine plays music files: by music packs, or out of a WAD's lumps.
-enum class MusicWay { Packs, Lumps };
+// How an engine plays music files: not at all as far as is known, by music packs, or out of a WAD's lumps.
+enum class MusicWay { None, Packs, Lumps };
 
 // What differs between the Doom engines that the adapter can start.
 struct KnownEngine

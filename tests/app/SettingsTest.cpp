@@ -175,6 +175,11 @@ private Q_SLOTS:
         QCOMPARE(f.installation.read(u"VYKLaunch/config.vyk.bak"_s), faulty);
         LoadSettings(f.launcher);
         QVERIFY(!f.installation.exists(u"VYKLaunch/config.vyk.bak2"_s));
+
+        f.setConfig(faulty); // where it cannot be kept, the launcher starts all the same
+        f.files.failOn(u".bak"_s, Kind::PermissionDenied);
+        LoadSettings(f.launcher);
+        QCOMPARE(f.launcher.settings.PlaylistName, u"kept"_s);
     }
 
     void corruptFile()

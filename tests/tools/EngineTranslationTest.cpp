@@ -136,6 +136,21 @@ private Q_SLOTS:
         }
     }
 
+    // A playlist replaces what comes before its WAD: the add-on's own music too, unless that is to be heard.
+    void playlists()
+    {
+        m_disk.add(u"VYKLaunch/Music/b.vym"_s, "MAP01 CD 02\r\n");
+        const QString game = u"-doom2 -udir Auto -extmus b"_s, last = u"Gwads/one.wad"_s,
+                      pack = u"Engines/Music/"_s;
+        for (const auto& name : {u"crispy-doom"_s, u"woof"_s}) {
+            const QString over = translate(game + u" -f one.wad"_s, ConventionsOf(name));
+            const QString under = translate(game + u" -upm -f one.wad"_s, ConventionsOf(name));
+            QVERIFY(over.indexOf(pack) > over.indexOf(last));
+            QVERIFY(under.contains(pack) && under.indexOf(pack) < under.indexOf(u"Gwads/"_s));
+        }
+        QVERIFY(translate(game, ConventionsOf(u"my-engine"_s)).contains(u"[-extmus b]"_s));
+    }
+
     // What one engine has and another has not.
     void eachEngine()
     {

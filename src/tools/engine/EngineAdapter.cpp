@@ -104,26 +104,26 @@ void printAbilities(const FoundEngine& engine, const KnownEngine& conventions)
     }
 }
 
-// The plan with all that it needs made. What cannot be made keeps nobody from playing.
+// The plan with all that it needs made. What cannot be made keeps nobody from playing; and without the
+// engine's configuration a playlist would be silence.
 EnginePlan Prepare(FileSystem& files, EngineRequest request, const QString& program)
 {
-    QStringList problems;
     EnginePlan plan = TranslateCommandLine(files, request);
+    const bool withMusic = !plan.music.wad.isEmpty();
     try {
         WriteMusicPack(files, request.root, plan.music);
-    } catch (const FileError& error) {
-        problems += u"the playlist: "_s + QString::fromUtf8(error.what());
-        request.withMusic = false;
-        plan = TranslateCommandLine(files, request);
-    }
-    try {
         plan.arguments += PrepareEngineConfig(files, request.root, program, request.engine,
                                               request.environment, plan.settings);
+        return plan;
     } catch (const FileError& error) {
-        problems += u"the engine's configuration: "_s + QString::fromUtf8(error.what());
+        if (withMusic) {
+            request.withMusic = false;
+            plan = Prepare(files, request, program);
+        }
+        plan.leftOut += (withMusic ? u"the playlist: "_s : u"the engine's configuration: "_s) +
+                        QString::fromUtf8(error.what());
+        return plan;
     }
-    plan.leftOut += problems;
-    return plan;
 }
 
 // Runs the engine to its end, publishing savegames meanwhile.

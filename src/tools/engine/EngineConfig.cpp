@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestFile = 1024 * 1024; // bytes; the engines' have some ten thousand
-
 // Where the engine keeps the player's own files: his data folder or, on Windows, beside the program.
 QStringList playersFolders(const QString& program, const QString& name,
                            const QProcessEnvironment& environment)
@@ -47,7 +45,7 @@ public:
     SettingLines(const FileSystem& files, const QString& path)
     {
         if (files.fileExists(path))
-            m_lines = files.read(path, largestFile).split('\n');
+            m_lines = files.read(path).split('\n');
         if (!m_lines.isEmpty() && m_lines.last().isEmpty())
             m_lines.removeLast();
     }

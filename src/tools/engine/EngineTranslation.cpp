@@ -21,7 +21,7 @@ struct Wishes
     QList<EngineSetting> settings;
     QString playlist;
     QStringList leftOut;
-    bool ownMusic = false; // comes before the playlist' pieces
+    bool ownMusic = false; // comes before the playlist's
     bool hasGame = false;
 };
 

@@ -45,7 +45,7 @@ Music musicFile(const FileSystem& files, const QString& root, const QString& mus
     if (music.startsWith(u"CD "_s))
         return {{}, u"other engines play no CD tracks"_s};
     const QString given = WithSlashes(music);
-    const bool withDrive = given.size() > 2 && given[1] == u':' && given[2] == u'/';
+    const bool withDrive = given.section(u'/', 0, 0).endsWith(u':') && QDir::isAbsolutePath(given);
     const QString path = QDir::cleanPath(withDrive ? given : root + u'/' + given);
     if (!withDrive && !path.startsWith(root + u'/'))
         return {{}, u"it lies outside the installation"_s};
@@ -64,7 +64,7 @@ bool canBeListed(const QString& path)
 
 QString relativeToPacks(const QString& root, const QString& path)
 {
-    return path.startsWith(root + u'/') ? u"../../../"_s + path.sliced(root.size() + 1) : path;
+    return QDir(root + u'/' + MusicPackFolder).relativeFilePath(path);
 }
 
 QString playlistPath(const QString& root, const QString& playlist)
@@ -159,16 +159,17 @@ QByteArray listOf(const QString& root, const MusicPack& pack)
     return text;
 }
 
-// All but the newest packs; one that is played lives on, or cannot be deleted.
+// All but the newest packs, what a kill left unfinished among them; one that is played lives on, or cannot be
+// deleted.
 void removeOldPacks(FileSystem& files, const QString& folder)
 {
     constexpr qsizetype kept = 8;
-    QStringList wads = files.files(folder);
-    wads.removeIf([](const QString& name) { return !EndsWith(name, u".wad"_s); });
-    std::ranges::sort(wads, [&](const QString& a, const QString& b) {
+    QStringList packs = files.files(folder);
+    packs.removeIf([](const QString& name) { return EndsWith(name, u".cfg"_s); });
+    std::ranges::sort(packs, [&](const QString& a, const QString& b) {
         return files.modified(folder + u'/' + a) > files.modified(folder + u'/' + b);
     });
-    for (const QString& name : wads.mid(kept))
+    for (const QString& name : packs.mid(kept))
         try {
             files.remove(folder + u'/' + name);
             files.remove(folder + u'/' + name.chopped(3) + u"cfg"_s);

@@ -34,5 +34,5 @@ inline const QString MusicPackFolder = QStringLiteral("VYKLaunch/Engines/Music")
 // pack without music.
 MusicPack PlanMusicPack(const FileSystem& files, const QString& root, const QString& playlist, MusicWay way);
 
-// Makes what is not there yet; older packs that nobody asked for lately go. Throws FileError.
+// Makes what is not there yet; all but the packs made last go. Throws FileError.
 void WriteMusicPack(FileSystem& files, const QString& root, const MusicPack& pack);
