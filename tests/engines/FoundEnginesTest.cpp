@@ -55,10 +55,9 @@ private Q_SLOTS:
     void versions()
     {
         constexpr qsizetype piece = 1024 * 1024;
-        for (const qsizetype before :
-             {qsizetype(0), piece - 3, piece - 10, piece - 1, piece, 2 * piece - 7}) {
-            m_disk.add(u"woof"_s, "Woof 6.0 Woof x" + QByteArray(before, 'a') + "Woof 10.5.1" +
-                                      QByteArray(before % 7, '.'));
+        const QByteArray older = "Woof 6.0 Woof x";
+        for (const qsizetype at : {older.size(), piece - 10, piece - 3, piece - 1, piece, 2 * piece - 7}) {
+            m_disk.add(u"woof"_s, older + QByteArray(at - older.size(), 'a') + "Woof 10.5.1");
             QCOMPARE(VersionOf(m_files, m_disk.path(u"woof"_s)), u"10.5.1"_s);
         }
         m_disk.add(u"woof"_s, "Woof 99999999999999999999.1 Woof ");
