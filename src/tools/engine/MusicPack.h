@@ -21,8 +21,8 @@ struct MusicLump
 
 struct MusicPack
 {
-    QString wad;   // the path of the WAD, in MusicFolder; empty when there is no music
-    bool ownFiles; // its lumps are the files themselves
+    QString wad;           // the path of the WAD, in MusicFolder; empty when there is no music
+    bool ownFiles = false; // its lumps are the files themselves
     QList<MusicLump> lumps;
     QStringList silences; // why a piece of the playlist stays silent, in words for the player
 };
