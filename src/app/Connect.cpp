@@ -37,6 +37,7 @@ struct ThenShow
     {
         if (handler)
             handler = [handler, &launcher = launcher](Arguments... arguments) {
+                launcher.session.toolFailed = false;
                 handler(arguments...);
                 ShowWindow(launcher);
             };

@@ -7,12 +7,14 @@
 #include "app/Tips.h"
 #include "catalogue/GameLists.h"
 #include "catalogue/GameStaging.h"
+#include "catalogue/ZipLibrary.h"
 #include "iwads/IwadSearch.h"
 #include "music/Playlists.h"
 #include "options/DisplayResolution.h"
 #include "options/EngineList.h"
 #include "options/PackFacts.h"
 #include "platform/Paths.h"
+#include "ui/FileErrorReport.h"
 
 #include <utility>
 
@@ -32,20 +34,6 @@ void recoverGames(Launcher& launcher)
         RecoverGames(launcher.files, launcher.paths.GamesPath);
     } catch (const FileError&) {
         // What an installation that was cut off moved aside stays there until the next one.
-    }
-}
-
-void emptyZipFolder(Launcher& launcher)
-{
-    const QString zips = launcher.paths.LaunchPath + u"Zips/"_s;
-    if (launcher.settings.LastLaunchMode != static_cast<int>(LaunchMode::Exit))
-        return;
-    for (const QString& name : launcher.files.files(zips)) {
-        try {
-            launcher.files.remove(zips + name);
-        } catch (const FileError&) {
-            // What is in use is deleted another time.
-        }
     }
 }
 
@@ -98,7 +86,8 @@ void LoadMainWindow(Launcher& launcher)
         Tips hidden(launcher); // each start has its tip, shown or not
     GetTitlePic(launcher);
     launcher.window.refresh(); // the window has its height from here on
-    emptyZipFolder(launcher);
+    if (settings.LastLaunchMode == static_cast<int>(LaunchMode::Exit))
+        EmptyZipFolder(launcher);
     placeWindow(launcher);
     ReadFacts(launcher);
     if (launcher.facts.iwads.ShowIwads[0].isEmpty())
@@ -140,10 +129,11 @@ void UnloadMainWindow(Launcher& launcher)
     try {
         if (!launcher.startUp.VersionUpdate)
             SaveSettings(launcher);
-    } catch (const FileError&) {
-        launcher.prompts.MsgboxPos(u"The settings could not be saved to    \r\n"_s +
-                                       NativePath(ConfigPath(launcher)) + u"    "_s,
-                                   Msg::Ok + Msg::Exclamation, u" Access error"_s);
+    } catch (const FileError& error) {
+        if (!ReportCause(launcher.prompts, error))
+            launcher.prompts.MsgboxPos(u"The settings could not be saved to    \r\n"_s +
+                                           NativePath(ConfigPath(launcher)) + u"    "_s,
+                                       Msg::Ok + Msg::Exclamation, u" Access error"_s);
     }
     if (launcher.startUp.RestartRequested)
         RestartLauncher(launcher);

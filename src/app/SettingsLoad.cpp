@@ -1,6 +1,7 @@
 #include "app/SettingsLoad.h"
 
 #include "app/StartUp.h"
+#include "catalogue/ZipLibrary.h"
 #include "options/Modes.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
@@ -91,7 +92,7 @@ ReadResult ReadStoredSettings(Launcher& launcher)
     // The installation's own folder is no other place once the installation was moved.
     const bool movedAway = SameName(FileNameOf(archives), FileNameOf(launcher.paths.ArchivesPath)) &&
                            !files.folderExists(archives);
-    if (!archives.isEmpty() && !movedAway)
+    if (!archives.isEmpty() && !movedAway && !IsFolderOfInstallation(files, launcher.paths, archives))
         launcher.paths.ArchivesPath = archives;
     try {
         if (files.fileExists(ConfigPath(launcher)))

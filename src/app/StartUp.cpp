@@ -2,6 +2,7 @@
 
 #include "app/MainWindowLoad.h"
 #include "app/SettingsLoad.h"
+#include "platform/CutOffWrites.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 
@@ -40,6 +41,14 @@ void testWriting(Launcher& launcher)
     launcher.files.removeFolder(folder);
 }
 
+// What an end in the middle of a write has left, in the folders of the settings and the playlists.
+void discardCutOffWrites(Launcher& launcher)
+{
+    const InstallationPaths& paths = launcher.paths;
+    for (const QString& folder : {paths.LaunchPath, paths.LaunchDataPath, paths.MusicLaunchPath})
+        DiscardCutOffWrites(launcher.files, folder);
+}
+
 bool isArgument(const QString& arguments, const QString& name)
 {
     return SameName(arguments.trimmed(), name);
@@ -49,7 +58,19 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
 {
     StartUpState& startUp = launcher.startUp;
     startUp.LauncherVersion = thisVersion;
+    // Before anything is written: another launcher may start at the same moment.
+    launcher.RunningUnderWine = isArgument(arguments, u"/WINE"_s);
+    if (isArgument(arguments, u"/RESTART"_s)) {
+        services.claimInstanceWhenFree();
+    } else if (!services.claimInstance()) {
+        if (!services.activateRunningInstance())
+            launcher.prompts.MsgboxPos(u"The VYKLauncher is already running but does not answer.    "_s,
+                                       Msg::Ok + Msg::Exclamation, u"Startup error"_s);
+        return StartResult::Ended;
+    }
+
     startUp.EngineVersion = ReadEngineVersion(launcher.files, launcher.paths);
+    discardCutOffWrites(launcher);
     checkConfigVersion(launcher);
     launcher.font = LoadFontSetting(launcher.files, launcher.paths.LaunchPath + u"font.vyk"_s);
     if (startUp.VersionUpdate)
@@ -68,16 +89,6 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
 
     startUp.WindowCaption =
         u"VYKLauncher "_s + startUp.LauncherVersion + u"  and  "_s + startUp.EngineVersion;
-    launcher.RunningUnderWine = isArgument(arguments, u"/WINE"_s);
-    if (isArgument(arguments, u"/RESTART"_s)) {
-        services.claimInstanceWhenFree();
-    } else if (!services.claimInstance()) {
-        if (!services.activateRunningInstance())
-            launcher.prompts.MsgboxPos(u"The VYKLauncher is already running but does not answer.    "_s,
-                                       Msg::Ok + Msg::Exclamation, u"Startup error"_s);
-        return StartResult::Ended;
-    }
-
     LoadMainWindow(launcher);
     if (startUp.ShuttingDown)
         return StartResult::Ended;
@@ -89,7 +100,7 @@ StartResult start(Launcher& launcher, const QString& arguments, const StartUpSer
     return StartResult::Running;
 }
 
-enum class StartUpError { NoAccess, MissingComponent, Unknown };
+enum class StartUpError { NoAccess, DiskFull, MissingComponent, Unknown };
 
 void reportStartUpError(Launcher& launcher, StartUpError error)
 {
@@ -101,6 +112,10 @@ void reportStartUpError(Launcher& launcher, StartUpError error)
         return report(u"   You appear to have restricted access with this user account, Keldrax        \r\n"
                       "    requires a UAC with a higher privilege level before it will run."_s,
                       Msg::Exclamation, u"Restricted Window's User Account Control"_s);
+    case StartUpError::DiskFull:
+        return report(
+            u"   Unable to run the VYKlauncher, the disk is full. Make some room and try again.    "_s,
+            Msg::Exclamation, u" Disk full"_s);
     case StartUpError::MissingComponent:
         return report(u"   Unable to run the VYKlauncher due to missing or unregistered       \r\n"
                       "   dependencies, re-install the program using the Keldrax setup."_s,
@@ -120,8 +135,10 @@ StartResult Main(Launcher& launcher, const QString& arguments, const StartUpServ
         return start(launcher, arguments, services);
     } catch (const FileError& error) {
         using enum FileError::Kind;
-        const bool noAccess = error.kind() != Other && error.kind() != NotFound;
-        reportStartUpError(launcher, noAccess ? StartUpError::NoAccess : StartUpError::Unknown);
+        reportStartUpError(launcher, error.kind() == DiskFull ? StartUpError::DiskFull
+                                     : error.kind() != Other && error.kind() != NotFound
+                                         ? StartUpError::NoAccess
+                                         : StartUpError::Unknown);
     } catch (const MissingComponent&) {
         reportStartUpError(launcher, StartUpError::MissingComponent);
     } catch (const std::exception&) {

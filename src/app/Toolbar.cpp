@@ -3,6 +3,7 @@
 #include "app/SettingsLoad.h"
 #include "catalogue/GameLists.h"
 #include "catalogue/InstallGame.h"
+#include "catalogue/ZipLibrary.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 #include "shell/ShellOpen.h"
@@ -41,6 +42,12 @@ void chooseZipFolder(Launcher& launcher)
     const QString chosen = launcher.prompts.chooseFolder(
         FolderQuestion(NativePath(folder), u"Select the new location of your zipped wad files ..."_s),
         folder);
+    if (IsFolderOfInstallation(launcher.files, launcher.paths, chosen)) {
+        launcher.prompts.MsgboxPos(
+            u"This is one of the installation's own folders, choose another one.    "_s,
+            Msg::Ok + Msg::Exclamation, u" Zip library folder"_s);
+        return;
+    }
     if (!chosen.isEmpty())
         folder = chosen;
     if (!launcher.files.folderExists(folder))

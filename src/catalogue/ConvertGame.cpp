@@ -2,6 +2,8 @@
 
 #include "catalogue/GameSelection.h"
 #include "platform/Paths.h"
+#include "shell/Trash.h"
+#include "ui/FileErrorReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,23 +11,27 @@ namespace {
 
 void reportFailure(Prompts& prompts, const FileError& error, const QString& denied)
 {
+    if (ReportCause(prompts, error))
+        return;
     prompts.MsgboxPos(error.isDenied() ? denied : u"ERROR: Unknown error     "_s, Msg::Ok + Msg::Critical,
                       u" Conversion error"_s);
 }
 
-// Gives a game's folder its other name, or moves what is in it into that folder when the game has both.
-void moveFiles(FileSystem& files, const QString& from, const QString& to)
+// Gives a game's folder its other name, or moves what is in it into that folder when the game has both: what
+// it replaces there goes to the trash.
+void moveFiles(FileSystem& files, Prompts& prompts, const QString& from, const QString& to)
 {
     if (!files.folderExists(to)) {
         files.move(from, to);
         return;
     }
-    for (const QString& name : files.files(from))
-        files.move(from + u'/' + name, to + u'/' + name);
-    for (const QString& name : files.folders(from))
-        if (files.actualPath(to + u'/' + name).isEmpty())
-            files.move(from + u'/' + name, to + u'/' + name);
-    files.removeTree(from);
+    Trash trash(files, prompts);
+    for (const QStringList& names : {files.files(from), files.folders(from)})
+        for (const QString& name : names)
+            if (trash.discard(to + u'/' + name))
+                files.move(from + u'/' + name, to + u'/' + name);
+    if (files.entries(from).isEmpty())
+        files.removeFolder(from);
 }
 
 void remove(FileSystem& files, const QString& folder, const QString& key, const QString& ending)
@@ -65,7 +71,7 @@ void ConvertToGwad(Launcher& launcher)
         return;
     try {
         files.remove(game + u"/Pwads/"_s + BaseNameOf(launcher.chosenFile()) + u".vykchk"_s);
-        moveFiles(files, game + u"/Pwads"_s, game + u"/Gwads"_s);
+        moveFiles(files, launcher.prompts, game + u"/Pwads"_s, game + u"/Gwads"_s);
         remove(files, launcher.paths.LaunchPath + u"GameInfo/Pwads/"_s, name, u".vykm"_s);
     } catch (const FileError& error) {
         reportFailure(launcher.prompts, error, u"Access denied: File or folder may be in use     "_s);
@@ -84,7 +90,7 @@ void ConvertToPwad(Launcher& launcher)
         files.remove(game + u"/Gwads/"_s + BaseNameOf(launcher.chosenFile()) + u".vykchk"_s);
         if (!mayConvertToPwad(launcher.prompts, launcher.shownFiles()))
             return;
-        moveFiles(files, game + u"/Gwads"_s, game + u"/Pwads"_s);
+        moveFiles(files, launcher.prompts, game + u"/Gwads"_s, game + u"/Pwads"_s);
         const QString records = launcher.paths.LaunchPath + u"GameInfo/Gwads/"_s;
         remove(files, records, name, u".vykg"_s);
         remove(files, records, name, u".vykm"_s);

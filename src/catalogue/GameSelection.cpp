@@ -56,15 +56,12 @@ GameFacts installedGame(Launcher& launcher, const QString& name)
 
 GameFacts archive(Launcher& launcher, const QString& name)
 {
-    const QString folder = ZipFolder(launcher.paths);
-    GameFacts facts{.kind = GameKind::Archive,
-                    .name = name,
-                    .folder = folder,
-                    .files = {},
-                    .mainWad = {},
-                    .scriptedMap = {}};
-    if (OpenArchive(launcher, name)) // else whatever may be left there is not this zip's
-        facts.files = GameFilesOf(launcher.files, folder);
+    GameFacts facts{
+        .kind = GameKind::Archive, .name = name, .folder = {}, .files = {}, .mainWad = {}, .scriptedMap = {}};
+    if (!OpenArchive(launcher, name))
+        return facts;
+    facts.folder = launcher.facts.opened.folder;
+    facts.files = GameFilesOf(launcher.files, facts.folder);
     facts.mainWad = ChooseMainWad(launcher, facts);
     return facts;
 }

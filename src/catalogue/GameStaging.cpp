@@ -9,9 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// In the work folder: what is built, the games and the single files that it replaces, and what was replaced
-// for good.
+// In the work folder: what is built; what is built and decided to go into games that exist; the games and the
+// single files that it replaces; and what was replaced for good.
 const QString built = u"new/"_s;
+const QString decided = u"adding/"_s;
 const QString replacedGames = u"games/"_s;
 const QString replacedFiles = u"files/"_s;
 const QString gone = u"gone/"_s;
@@ -36,14 +37,13 @@ public:
         m_done.push_back({from, to});
     }
 
-    // What cannot be moved back stays where it is for RecoverGames.
+    // From the first that cannot be moved back on, all stays where it is: RecoverGames goes on from there.
     void undo()
     {
-        for (; !m_done.empty(); m_done.pop_back()) {
-            try {
+        try {
+            for (; !m_done.empty(); m_done.pop_back())
                 m_files.move(m_done.back().to, m_done.back().from);
-            } catch (const FileError&) {
-            }
+        } catch (const FileError&) {
         }
     }
 
@@ -63,16 +63,49 @@ void putBackGames(FileSystem& files, const QString& gamesPath, const QString& as
             files.move(aside + game, gamesPath + game);
 }
 
-void putBackFiles(FileSystem& files, const QString& folder, const QString& aside)
+void requireReplaceable(const FileSystem& files, const QString& path)
 {
-    for (const QString& name : files.folders(aside))
-        putBackFiles(files, folder + name + u'/', aside + name + u'/');
-    for (const QString& name : files.files(aside)) {
-        if (!files.actualPath(folder + name).isEmpty())
-            continue;
-        files.createFolder(folder); // its game may have got another name meanwhile
-        files.move(aside + name, folder + name);
+    if (files.folderExists(path))
+        throw FileError(FileError::Kind::Exists, path, u"a folder has the file's name"_s);
+    if (files.isReadOnly(path))
+        throw FileError(FileError::Kind::PermissionDenied, path, u"the file is read-only"_s);
+}
+
+// Moves the files into a game's folder, and those that they replace into `aside`.
+void addFiles(FileSystem& files, Moves& moves, const QString& source, const QString& target,
+              const QString& aside)
+{
+    files.createFolder(aside);
+    for (const QString& name : files.files(source)) {
+        if (const QString old = files.actualPath(target + name); !old.isEmpty()) {
+            requireReplaceable(files, old);
+            moves.move(old, aside + FileNameOf(old));
+        }
+        moves.move(source + name, target + name);
     }
+}
+
+// Goes on with an addition that was cut off.
+void finishAdding(FileSystem& files, const QString& gamesPath, const QString& work)
+{
+    Moves moves(files);
+    for (const QString& game : files.folders(work + decided)) {
+        for (const QString& kind : files.folders(work + decided + game)) {
+            const QString folder = game + u'/' + kind + u'/';
+            files.createFolder(gamesPath + folder);
+            addFiles(files, moves, work + decided + folder, gamesPath + folder,
+                     work + replacedFiles + folder);
+        }
+    }
+}
+
+// Into the trash, where there is one: the player may want it back.
+void discard(FileSystem& files, const QString& folder)
+{
+    for (const QString& name : files.folders(folder))
+        if (files.hasTrash() && files.contents(folder + name).files > 0)
+            files.moveToTrash(folder + name);
+    files.removeTree(folder);
 }
 
 void recover(FileSystem& files, const QString& gamesPath)
@@ -81,8 +114,10 @@ void recover(FileSystem& files, const QString& gamesPath)
     if (!files.folderExists(work))
         return;
     putBackGames(files, gamesPath, work + replacedGames);
-    putBackFiles(files, gamesPath, work + replacedFiles);
-    for (const QString& own : {built, replacedGames, replacedFiles, gone})
+    finishAdding(files, gamesPath, work);
+    discard(files, work + replacedFiles);
+    discard(files, work + gone);
+    for (const QString& own : {built, decided, replacedGames})
         files.removeTree(work + own);
     if (files.files(work).isEmpty() && files.folders(work).isEmpty()) // what is not ours stays
         files.removeFolder(work);
@@ -100,14 +135,6 @@ QString existing(FileSystem& files, const QString& folder)
     if (path.isEmpty())
         throw FileError(FileError::Kind::NotFound, folder, u"no such folder"_s);
     return path + u'/';
-}
-
-void requireReplaceable(const FileSystem& files, const QString& path)
-{
-    if (files.folderExists(path))
-        throw FileError(FileError::Kind::Exists, path, u"a folder has the file's name"_s);
-    if (files.isReadOnly(path))
-        throw FileError(FileError::Kind::PermissionDenied, path, u"the file is read-only"_s);
 }
 
 } // namespace
@@ -196,20 +223,16 @@ void GameStaging::placeInGame()
 
 void GameStaging::addToFolder(const QString& target)
 {
-    const QString source = folder();
-    const QString game = FileNameOf(m_files.actualPath(m_games + m_game));
-    const QString aside = m_work + replacedFiles + game + u'/' + m_kind + u'/';
-    m_files.createFolder(aside);
+    const QString game = FileNameOf(m_files.actualPath(m_games + m_game)) + u'/' + m_kind + u'/';
     Moves moves(m_files);
     try {
-        for (const QString& name : m_files.files(source)) {
-            if (const QString old = m_files.actualPath(target + name); !old.isEmpty()) {
+        for (const QString& name : m_files.files(folder()))
+            if (const QString old = m_files.actualPath(target + name); !old.isEmpty())
                 requireReplaceable(m_files, old);
-                moves.move(old, aside + FileNameOf(old));
-            }
-            moves.move(source + name, target + name);
-        }
-        moves.move(m_work + replacedFiles, m_work + gone);
+        m_files.createFolder(m_work + decided + FolderOf(game.chopped(1)));
+        // From here on the game gets the files, also when this program is ended meanwhile.
+        moves.move(folder().chopped(1), m_work + decided + game.chopped(1));
+        addFiles(m_files, moves, m_work + decided + game, target, m_work + replacedFiles + game);
     } catch (const FileError&) {
         moves.undo();
         throw;

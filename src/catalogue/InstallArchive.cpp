@@ -4,6 +4,7 @@
 #include "catalogue/GameNames.h"
 #include "catalogue/InstallGame.h"
 #include "catalogue/ZipLibrary.h"
+#include "ui/FileErrorReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +15,7 @@ const QString conversionError = u" Conversion error"_s;
 // Every file of the zip folder; false when the player cancelled.
 bool fillFromZipFolder(Launcher& launcher, GameStaging& staging)
 {
-    const QString folder = ZipFolder(launcher.paths);
+    const QString folder = launcher.facts.opened.folder;
     const QStringList names = launcher.files.files(folder);
     qint64 total = 0;
     for (const QString& name : names)
@@ -39,7 +40,7 @@ std::optional<QString> askInstallName(Launcher& launcher, const QString& caption
     const std::optional<QString> name = AskGameName(
         launcher.prompts, {.caption = caption, .frame = frame, .button = u"OK"_s, .name = archive},
         {.title = conversionError});
-    // Another launcher may have put another zip into the folder meanwhile.
+    // The zip may have changed meanwhile.
     return name && OpenArchive(launcher, archive) ? name : std::nullopt;
 }
 
@@ -91,7 +92,7 @@ void InstallArchiveAsPwad(Launcher& launcher)
         else
             staging.placeAsNewGame();
     } catch (const FileError& error) {
-        if (ReportHeld(launcher.prompts, error))
+        if (ReportCause(launcher.prompts, error))
             return;
         launcher.prompts.MsgboxPos(error.isDenied() ? u" Read only error, file can't be overwritten     "_s
                                                     : u" Unknown error     "_s,

@@ -7,6 +7,7 @@
 #include "platform/FileNames.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
+#include "ui/FileErrorReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,7 +50,7 @@ Installed checkFile(Prompts& prompts, const QString& path)
 
 void reportFailure(Prompts& prompts, const FileError& error)
 {
-    if (ReportHeld(prompts, error))
+    if (ReportCause(prompts, error))
         return;
     const QString text = error.isDenied() ? u" Read only error, file can't be overwritten      "_s
                                           : u" Unknown error, Pwad can not be installed      "_s;
@@ -67,15 +68,6 @@ void rememberFolder(Launcher& launcher)
 }
 
 } // namespace
-
-bool ReportHeld(Prompts& prompts, const FileError& error)
-{
-    if (error.isHeld())
-        prompts.MsgboxPos(u" Another game is being installed, try again when that has ended.    \r\n "_s +
-                              error.detail(),
-                          Msg::Ok + Msg::Information, u" Installation error"_s);
-    return error.isHeld();
-}
 
 bool InstallGameFromFile(Launcher& launcher)
 {
@@ -165,7 +157,7 @@ Installed InstallAsGwad(Launcher& launcher, const QString& name,
         else
             staging.placeInGame();
     } catch (const FileError& error) {
-        if (ReportHeld(launcher.prompts, error))
+        if (ReportCause(launcher.prompts, error))
             return Installed::Refused;
         if (error.isDenied())
             launcher.prompts.MsgboxPos(u" Read only error, file can't be overwritten      "_s,

@@ -30,8 +30,5 @@ Installed InstallGwadGame(Launcher& launcher, const QString& path);
 Installed InstallAsGwad(Launcher& launcher, const QString& name,
                         const std::function<bool(GameStaging&)>& fill);
 
-// Tells the player when the failure is that another launcher installs a game, and which; false for any other.
-bool ReportHeld(Prompts& prompts, const FileError& error);
-
 // Reads the folder of the file installed last; empty when there is none.
 QString LoadLastInstallFolder(const FileSystem& files, const InstallationPaths& paths);

@@ -36,7 +36,7 @@ void DeleteFilesBeginningWith(FileSystem& files, const InstallationPaths& paths,
     }
 }
 
-void DeleteGameResources(FileSystem& files, const InstallationPaths& paths, const QString& base)
+void DeleteGameResources(FileSystem& files, Trash& trash, const InstallationPaths& paths, const QString& base)
 {
     if (!IsUsableName(base))
         return;
@@ -45,5 +45,5 @@ void DeleteGameResources(FileSystem& files, const InstallationPaths& paths, cons
         folders.prepend(u"/MD2/"_s);
     for (const QString& folder : folders)
         if (files.folderExists(paths.RootPath + folder + base))
-            files.removeTree(paths.RootPath + folder + base);
+            trash.discard(paths.RootPath + folder + base);
 }

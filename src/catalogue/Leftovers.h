@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileSystem.h"
+#include "shell/Trash.h"
 #include "state/InstallationPaths.h"
 
 #include <initializer_list>
@@ -12,6 +12,7 @@
 void DeleteFilesBeginningWith(FileSystem& files, const InstallationPaths& paths, const QString& base,
                               std::initializer_list<const char16_t*> folders);
 
-// Deletes the models, textures and music that an installed PWAD game brought; the model packs' own folders
+// Discards the models, textures and music that an installed PWAD game brought; the model packs' own folders
 // stay, whatever a WAD is called.
-void DeleteGameResources(FileSystem& files, const InstallationPaths& paths, const QString& base);
+void DeleteGameResources(FileSystem& files, Trash& trash, const InstallationPaths& paths,
+                         const QString& base);

@@ -9,6 +9,7 @@
 #include "platform/Paths.h"
 #include "records/RecordRemoval.h"
 #include "shell/DeleteShortcuts.h"
+#include "shell/Trash.h"
 
 #include <algorithm>
 
@@ -54,28 +55,32 @@ bool isWadOfInstalledGame(const FileSystem& files, const InstallationPaths& path
     });
 }
 
-void removeGame(Launcher& launcher, const QString& name, const QString& base)
+void removeGame(Launcher& launcher, Trash& trash, const QString& name, const QString& base)
 {
     FileSystem& files = launcher.files;
     const QString game = launcher.paths.GamesPath + name;
     const bool isGwad = launcher.gameIs(GameKind::Gwad);
-    files.removeTree(game); // as a whole: of a linked folder the link goes, not what it leads to
+    if (!trash.discard(game)) // as a whole: of a linked folder the link goes, not what it leads to
+        return;
     if (!isGwad)
-        DeleteGameResources(files, launcher.paths, base);
-    DeleteRecordsOfGame(files, launcher.paths, name, isGwad);
+        DeleteGameResources(files, trash, launcher.paths, base);
+    if (!trash.keeps()) // the few bytes are of use again when the game comes back
+        DeleteRecordsOfGame(files, launcher.paths, name, isGwad);
     DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
     DeleteShortcuts(files, launcher.shortcutFolders, name);
 }
 
-void removeArchive(Launcher& launcher, const QString& name, const QString& base)
+void removeArchive(Launcher& launcher, Trash& trash, const QString& name, const QString& base)
 {
     FileSystem& files = launcher.files;
-    files.remove(ArchivePath(launcher.paths, name));
+    if (!trash.discard(ArchivePath(launcher.paths, name)))
+        return;
     files.remove(launcher.paths.LaunchPath + u"Zips/Checks/"_s + name + u".vykchk"_s);
-    DeleteRecordsOfArchive(files, launcher.paths, name);
+    if (!trash.keeps())
+        DeleteRecordsOfArchive(files, launcher.paths, name);
     if (IsUsableName(base) && !isWadOfInstalledGame(files, launcher.paths, base) &&
         files.folderExists(launcher.paths.RootPath + u"/UserSG/"_s + base))
-        files.removeTree(launcher.paths.RootPath + u"/UserSG/"_s + base);
+        trash.discard(launcher.paths.RootPath + u"/UserSG/"_s + base);
 }
 
 } // namespace
@@ -91,15 +96,17 @@ void RemoveInstalledGame(Launcher& launcher)
 {
     const QString name = launcher.facts.game.name;
     const QString file = launcher.SelectedGameFile();
+    Trash trash(launcher.files, launcher.prompts);
     if (name.isEmpty() ||
-        !confirmed(launcher.prompts, u" Are you certain you wish to remove this game from the list?      "_s,
+        !confirmed(launcher.prompts,
+                   u" Are you certain you wish to remove this game from the list?      "_s + trash.words(),
                    u" Remove selected game from list "_s) ||
         isInUse(launcher.prompts, file,
                 u" Unable to remove the selected item from the games list,       \r\n"
                 "associated files or folders are in use by another program."_s))
         return;
     try {
-        removeGame(launcher, name, launcher.chosenWadName());
+        removeGame(launcher, trash, name, launcher.chosenWadName());
     } catch (const FileError&) {
         reportPartlyRemoved(launcher.prompts);
     }
@@ -113,20 +120,24 @@ void DeleteGameFile(Launcher& launcher)
     const QString file = FileNameOf(ChosenListFile).toUpper();
     const QString base = BaseNameOf(ChosenListFile);
     const QString game = launcher.facts.game.name;
+    Trash trash(files, launcher.prompts);
     if (ChosenListFile.isEmpty() ||
-        !confirmed(launcher.prompts, u"Are you certain you wish to delete "_s + file + u"?       "_s,
+        !confirmed(launcher.prompts,
+                   u"Are you certain you wish to delete "_s + file + u"?       "_s + trash.words(),
                    u" Delete selected file"_s) ||
         isInUse(launcher.prompts, ChosenListFile,
                 u"Unable to delete the selected file, the file       \r\n"
                 "  appears to be in use by another program."_s))
         return;
     try {
-        files.remove(ChosenListFile);
-        if (!base.isEmpty())
+        // Only a WAD has anything of its own elsewhere.
+        if (trash.discard(ChosenListFile) && EndsWith(ChosenListFile, u".wad"_s)) {
             DeleteShortcuts(files, launcher.shortcutFolders, game + u" - "_s + base);
-        files.remove(launcher.paths.LaunchPath + u"GameInfo/Save/Gwads/"_s + game.toLower() + u'/' +
-                     base.toLower() + u".vyks"_s);
-        DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
+            if (!trash.keeps())
+                files.remove(launcher.paths.LaunchPath + u"GameInfo/Save/Gwads/"_s + game.toLower() + u'/' +
+                             base.toLower() + u".vyks"_s);
+            DeleteFilesBeginningWith(files, launcher.paths, base, {u"VYKAnFiles", u"gwa"});
+        }
     } catch (const FileError&) {
         reportPartlyRemoved(launcher.prompts);
     }
@@ -136,15 +147,16 @@ void DeleteGameFile(Launcher& launcher)
 void DeleteArchive(Launcher& launcher)
 {
     const QString name = launcher.facts.game.name;
+    Trash trash(launcher.files, launcher.prompts);
     if (name.isEmpty() ||
-        !confirmed(launcher.prompts, u"Are you certain you wish to delete this file?      "_s,
+        !confirmed(launcher.prompts, u"Are you certain you wish to delete this file?      "_s + trash.words(),
                    u" Delete selected archive"_s) ||
         isInUse(launcher.prompts, launcher.SelectedGameFile(),
                 u"Unable to delete the selected file, the file       \r\n"
                 "  appears to be in use by another program."_s))
         return;
     try {
-        removeArchive(launcher, name, launcher.chosenWadName());
+        removeArchive(launcher, trash, name, launcher.chosenWadName());
     } catch (const FileError&) {
         reportAccessError(launcher.prompts, u"Unable to remove the selected item from this list,       \r\n"
                                             "   the file may be in use by another program."_s);

@@ -4,6 +4,7 @@
 #include "iwads/IwadSearch.h"
 #include "platform/Paths.h"
 #include "shell/ShellOpen.h"
+#include "ui/FileErrorReport.h"
 
 #include <algorithm>
 
@@ -79,8 +80,12 @@ void IwadDialog::addIwad()
         auto& boxes = iwads.ShowIwads;
         const auto box =
             std::ranges::find_if(boxes, [](const QString& text) { return !EndsWith(text, u".wad"_s); });
-        if (box == boxes.end())
+        if (box == boxes.end()) {
+            m_launcher.prompts.MsgboxPos(
+                u"The list holds four Iwads already, press Reset to make a new one.    "_s,
+                Msg::Ok + Msg::Information, u"Configuration error"_s);
             return;
+        }
         *box = chosen;
         m_warningShown = false;
         if (!checkIwad(chosen)) {
@@ -95,7 +100,9 @@ void IwadDialog::addIwad()
     readAgain();
     try {
         SaveIwadList(iwads, m_launcher.files, m_launcher.paths);
-    } catch (const FileError&) {
+    } catch (const FileError& error) {
+        if (ReportCause(m_launcher.prompts, error))
+            return;
         m_launcher.prompts.MsgboxPos(u"The Iwad locations could not be saved.    "_s,
                                      Msg::Ok + Msg::Exclamation, u" Access error"_s);
     }
@@ -110,7 +117,10 @@ bool IwadDialog::accept()
             Msg::YesNo + Msg::Question, u"Configuration error"_s);
         if (answer != Msg::ResultYes)
             return false;
-        ShutDownLauncher(m_launcher);
+        if (m_launcher.window.isShown())
+            m_launcher.window.closeLauncher(); // with what the player set
+        else
+            ShutDownLauncher(m_launcher);
         return true;
     }
     if (m_launcher.view() != View::DoomGames)

@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +17,19 @@ const QString shareware = u"Doom1.wad"_s;
 QString listPath(const InstallationPaths& paths)
 {
     return paths.LaunchDataPath + u"iwads.cfg"_s;
+}
+
+constexpr qsizetype mostLines = 16;
+
+// None of a list that cannot be read.
+QStringList listLines(const FileSystem& files, const InstallationPaths& paths)
+{
+    try {
+        const QString path = listPath(paths);
+        return files.fileExists(path) ? ReadLines(files, path).mid(0, mostLines) : QStringList();
+    } catch (const FileError&) {
+        return {};
+    }
 }
 
 QString wadFolder(const FileSystem& files, const IwadEnvironment& environment)
@@ -62,27 +76,24 @@ void SearchIwads(IwadPaths& iwads, QStringList& storedFiles, const FileSystem& f
         probe(folder, shareware);
 }
 
-void LoadIwadList(IwadPaths& iwads, QStringList& storedFiles, FileSystem& files,
+void LoadIwadList(IwadPaths& iwads, QStringList& storedFiles, const FileSystem& files,
                   const InstallationPaths& paths)
 {
-    const QString path = listPath(paths);
-    if (!files.fileExists(path))
-        return;
-    try {
-        const QStringList lines = ReadLines(files, path);
-        iwads.IwadFolder = FolderOf(WithSlashes(lines.value(0)));
-        bool namesAFile = false;
-        for (const QString& line : lines.first(std::min<qsizetype>(lines.size(), 4))) {
-            const QString iwad = files.actualPath(WithSlashes(line));
-            if (iwad.isEmpty() || !files.fileExists(iwad))
-                continue;
-            namesAFile = true;
-            AddIwad(iwads, storedFiles, iwad);
+    std::array<bool, 5> listed{};
+    const QStringList lines = listLines(files, paths);
+    iwads.IwadFolder = FolderOf(WithSlashes(lines.value(0)));
+    for (const QString& line : lines) {
+        const QString iwad = files.actualPath(WithSlashes(line));
+        const std::optional<GameFamily> family = FamilyOfIwad(iwad);
+        if (!family || !files.fileExists(iwad))
+            continue;
+        // Of two for one game the player added the later one, and wants it.
+        QString& known = iwads.of(*family);
+        if (std::exchange(listed[static_cast<size_t>(*family)], true) && !known.isEmpty()) {
+            storedFiles.replace(storedFiles.indexOf(known), iwad);
+            known = iwad;
         }
-        if (!namesAFile)
-            files.remove(path);
-    } catch (const FileError&) {
-        // An unreadable list adds nothing.
+        AddIwad(iwads, storedFiles, iwad);
     }
 }
 
@@ -91,6 +102,11 @@ void SaveIwadList(const IwadPaths& iwads, FileSystem& files, const InstallationP
     QStringList lines;
     for (const QString& box : iwads.ShowIwads)
         lines << NativePath(box);
+    // What lies on a disk that is not there today.
+    for (const QString& line : listLines(files, paths))
+        if (!line.trimmed().isEmpty() && files.actualPath(WithSlashes(line)).isEmpty() &&
+            lines.size() < mostLines && !lines.contains(line, Qt::CaseInsensitive))
+            lines << line;
     WriteLines(files, listPath(paths), lines);
 }
 

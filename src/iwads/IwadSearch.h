@@ -14,11 +14,11 @@ void AddIwad(IwadPaths& iwads, QStringList& storedFiles, const QString& path);
 void SearchIwads(IwadPaths& iwads, QStringList& storedFiles, const FileSystem& files,
                  const InstallationPaths& paths, const IwadEnvironment& environment);
 
-// Adds what iwads.cfg names, and deletes the file when it names no file that exists.
-void LoadIwadList(IwadPaths& iwads, QStringList& storedFiles, FileSystem& files,
+// Adds what iwads.cfg names; of two for one game the later one. What is not there today stays in the file.
+void LoadIwadList(IwadPaths& iwads, QStringList& storedFiles, const FileSystem& files,
                   const InstallationPaths& paths);
 
-// Writes the four boxes to iwads.cfg. Throws FileError.
+// Writes the four boxes to iwads.cfg, and after them what it named that is not there today. Throws FileError.
 void SaveIwadList(const IwadPaths& iwads, FileSystem& files, const InstallationPaths& paths);
 
 // Both of the above at start-up: fills the boxes with the first four paths and deletes stale node files

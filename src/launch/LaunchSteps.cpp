@@ -43,6 +43,13 @@ bool canBeQuoted(const Truth& truth, const QString& own, GameFamily family, cons
            std::ranges::none_of(names, [](const QString& name) { return name.contains(u'"'); });
 }
 
+// It would be taken for a switch.
+bool beginsAsSwitch(const QString& own, const QStringList& names)
+{
+    return own.contains(u"-extmus \"-"_s) ||
+           std::ranges::any_of(names, [](const QString& name) { return name.startsWith(u'-'); });
+}
+
 QString playlistThatExists(const Facts& facts, const QString& name)
 {
     return facts.playlists.contains(name, Qt::CaseInsensitive) ? name : QString();
@@ -100,9 +107,13 @@ LaunchPlan FinishPlan(const Truth& truth, LaunchPlan plan, const QString& comman
                       const QStringList& names)
 {
     const QString own = commandLine + startSwitches(truth) + engineSwitch(truth);
-    if (canBeQuoted(truth, own, family, names))
-        plan.commandLine = own + customText(truth.settings);
-    else
+    if (!canBeQuoted(truth, own, family, names))
         plan.refusal = DoubleQuoteMessage();
+    else if (beginsAsSwitch(own, names))
+        plan.refusal = {u"A file, folder or playlist name begins with a hyphen, which the engine would take "
+                        "for an option.    \r\nRename it and try again.    "_s,
+                        u" Launch error"_s};
+    else
+        plan.commandLine = own + customText(truth.settings);
     return plan;
 }

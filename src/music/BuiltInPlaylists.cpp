@@ -91,15 +91,49 @@ QStringList linesOf(const BuiltIn& playlist, const QStringList& packFiles)
     return lines;
 }
 
+enum class Files { Own, Shared };
+
+// The names that a pack's files can have.
+QStringList possibleFiles(const BuiltIn& playlist, Files which)
+{
+    QStringList names;
+    for (const Section& section : playlist.sections)
+        for (const std::span<const MusicKey> keys : {IntermissionKeys(section.game), MapKeys(section.game)})
+            for (const MusicKey& key : keys)
+                names << (which == Files::Shared
+                              ? key.lump.toString()
+                              : section.ownPrefix.toString() + key.lump.mid(2).toString()) +
+                             u".ogg"_s;
+    return names;
+}
+
+// Whether the lines are those that were made, whichever files the pack had then.
+bool isAsMade(const BuiltIn& playlist, const QStringList& lines)
+{
+    const QStringList without = linesOf(playlist, {});
+    const QStringList with = linesOf(playlist, possibleFiles(playlist, Files::Own));
+    const QStringList shared = linesOf(playlist, possibleFiles(playlist, Files::Shared));
+    if (lines.size() != without.size())
+        return false;
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        if (lines.at(i) != without.at(i) && lines.at(i) != with.at(i) && lines.at(i) != shared.at(i))
+            return false;
+    return true;
+}
+
 // A playlist that the player has changed cannot be made again.
 void retire(Launcher& launcher, const BuiltIn& playlist, const QString& path)
 {
-    const QStringList lines = ReadPlaylist(launcher.files, path).lines;
-    const QString old = launcher.paths.MusicLaunchPath + playlist.name + u".old"_s;
-    if (lines == linesOf(playlist, {}))
-        launcher.files.remove(path);
-    else
-        launcher.files.move(path, old);
+    FileSystem& files = launcher.files;
+    if (isAsMade(playlist, ReadPlaylist(files, path).lines)) {
+        files.remove(path);
+        return;
+    }
+    const QString base = launcher.paths.MusicLaunchPath + playlist.name + u".old"_s;
+    QString old = base;
+    for (int number = 2; files.fileExists(old); ++number)
+        old = base + QString::number(number);
+    files.move(path, old);
 }
 
 void makePlaylists(Launcher& launcher, const QString& pack)
@@ -152,9 +186,10 @@ QString GetListPath(const InstallationPaths& paths, const QString& name)
 
 void MakeFennicPlaylists(Launcher& launcher)
 {
-    makePlaylists(launcher, u"Fennic"_s);
+    // The list names the file by its new name.
     const QString folder = packFolder(launcher.paths, u"Fennic"_s);
     renameIfThere(launcher.files, folder + u"/tnt_stalks2.ogg"_s, folder + u"/tnt_stlks2.ogg"_s);
+    makePlaylists(launcher, u"Fennic"_s);
     const QString music = launcher.paths.MusicLaunchPath;
     renameIfThere(launcher.files, music + u"Fennic.vym"_s, music + u"Fennic.old"_s);
 }

@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "platform/Text.h"
 #include "shell/TextEditor.h"
+#include "ui/FileErrorReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,8 +42,10 @@ MapType usualType(const IwadPaths& iwads)
 
 } // namespace
 
-void ReportPlaylistError(Prompts& prompts)
+void ReportPlaylistError(Prompts& prompts, const FileError& error)
 {
+    if (ReportCause(prompts, error))
+        return;
     prompts.MsgboxPos(u"Unable to make changes to playlist    \r\n"_s, Msg::Ok + Msg::Exclamation,
                       u" Access error"_s);
 }
@@ -58,8 +61,8 @@ bool PlaylistEditor::open()
 {
     try {
         m_list = ReadPlaylist(m_launcher.files, PlaylistPath(m_launcher.paths, name()));
-    } catch (const FileError&) {
-        ReportPlaylistError(m_launcher.prompts);
+    } catch (const FileError& error) {
+        ReportPlaylistError(m_launcher.prompts, error);
         return false;
     }
     m_mapType = MapTypeOf(m_list.lines);
@@ -213,10 +216,11 @@ bool PlaylistEditor::SaveList(const QString& name, const QStringList& lines)
         m_launcher.files.createFolder(m_launcher.paths.MusicLaunchPath);
         WritePlaylist(m_launcher.files, PlaylistPath(m_launcher.paths, name),
                       {.lines = lines, .isUtf8 = m_list.isUtf8});
-    } catch (const FileError&) {
-        ReportPlaylistError(m_launcher.prompts);
+    } catch (const FileError& error) {
+        ReportPlaylistError(m_launcher.prompts, error);
         return false;
     }
+    m_saved = true;
     ReadPlaylists(m_launcher);
     return true;
 }
@@ -232,21 +236,27 @@ bool PlaylistEditor::save()
 
 bool PlaylistEditor::close()
 {
+    const auto answer = [this](const QString& text, const QString& title) {
+        return m_launcher.prompts.MsgboxPos(text, Msg::YesNoCancel + Msg::Question, title);
+    };
     if (!m_list.isWhole)
         return true; // there is nothing that could be saved
-    if (m_unsaved && asksYes(m_launcher.prompts,
-                             u" Your playlist has unsaved changes.      "_s + u"\r\n"_s +
-                                 u"  Do you want to save on exiting?        "_s,
-                             u" Save playlist"_s))
+    int wanted = Msg::ResultNo;
+    if (m_unsaved)
+        wanted = answer(u" Your playlist has unsaved changes.      "_s + u"\r\n"_s +
+                            u"  Do you want to save on exiting?        "_s,
+                        u" Save playlist"_s);
+    if (wanted == Msg::ResultYes)
         return save();
     // The changes are not wanted; the layout may be.
-    if (!m_converted.isEmpty() &&
-        asksYes(m_launcher.prompts,
-                u" Your playlist has been converted to the new format.     "_s + u"\r\n"_s +
-                    u"   Do you wish to save the new format on exiting?        "_s,
-                u" Save playlist to new format"_s))
-        return SaveList(name(), m_converted);
-    return true;
+    if (wanted == Msg::ResultNo && !m_converted.isEmpty()) {
+        wanted = answer(u" Your playlist has been converted to the new format.     "_s + u"\r\n"_s +
+                            u"   Do you wish to save the new format on exiting?        "_s,
+                        u" Save playlist to new format"_s);
+        if (wanted == Msg::ResultYes)
+            return SaveList(name(), m_converted);
+    }
+    return wanted == Msg::ResultNo; // dismissing the question goes on with the playlist
 }
 
 void PlaylistEditor::openInTextEditor()

@@ -6,13 +6,13 @@
 
 #include <optional>
 
-// The playlist that is being edited, PlaylistName, and the commands over it. A line is given by its number
+// The playlist that is being edited, and the commands over it. A line is given by its number
 // from 0; one outside the list changes nothing.
 class PlaylistEditor
 {
 public:
     // `launcher` must outlive the editor.
-    explicit PlaylistEditor(Launcher& launcher) : m_launcher(launcher) {}
+    PlaylistEditor(Launcher& launcher, const QString& name) : m_launcher(launcher), m_name(name) {}
 
     // A playlist without music, laid out for Doom when its IWAD is known, else for Doom II.
     void startNew();
@@ -21,7 +21,8 @@ public:
     // it cannot be read or the player would not have it put right.
     bool open();
 
-    QString name() const { return m_launcher.settings.PlaylistName; }
+    const QString& name() const { return m_name; }
+    bool wasSaved() const { return m_saved; } // at least once
     const QStringList& MusicList() const { return m_list.lines; }
 
     // What can be done now.
@@ -58,12 +59,14 @@ private:
     void setLines(const QStringList& lines);
 
     Launcher& m_launcher;
+    QString m_name;
     PlaylistText m_list;
     std::optional<MapType> m_mapType;
     bool m_unsaved = false;
+    bool m_saved = false;
     QStringList m_converted; // as it was put right at opening; empty when it was not or has been saved
     QString m_victorMusic;   // of D_VICTOR, which Doom II has not, while the list is toggled
 };
 
 // Says that a playlist could not be changed.
-void ReportPlaylistError(Prompts& prompts);
+void ReportPlaylistError(Prompts& prompts, const FileError& error);

@@ -6,6 +6,7 @@
 #include "options/OptionValues.h"
 #include "platform/FileNames.h"
 #include "platform/Paths.h"
+#include "shell/Trash.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,19 +63,18 @@ std::optional<QString> askNewName(Launcher& launcher)
 void newClicked(Launcher& launcher)
 {
     if (const auto name = askNewName(launcher)) {
-        const QString before = std::exchange(launcher.settings.PlaylistName, *name);
-        PlaylistEditor editor(launcher);
+        PlaylistEditor editor(launcher, *name);
         editor.startNew();
         launcher.window.showMusicForm(editor);
-        if (!launcher.files.fileExists(PlaylistPath(launcher.paths, *name)))
-            launcher.settings.PlaylistName = before; // the new one was not saved
+        if (editor.wasSaved())
+            launcher.settings.PlaylistName = *name;
     }
 }
 
 void openClicked(Launcher& launcher)
 {
     const QString path = PlaylistPath(launcher.paths, launcher.settings.PlaylistName);
-    PlaylistEditor editor(launcher);
+    PlaylistEditor editor(launcher, launcher.settings.PlaylistName);
     if (launcher.files.fileExists(path) && editor.open())
         launcher.window.showMusicForm(editor);
 }
@@ -82,17 +82,19 @@ void openClicked(Launcher& launcher)
 void deleteClicked(Launcher& launcher)
 {
     const QString name = chosenPlaylist(launcher);
+    Trash trash(launcher.files, launcher.prompts);
     if (name.isEmpty() || launcher.prompts.MsgboxPos(
-                              u"Are you certain you wish to delete "_s + name + u"   "_s,
+                              u"Are you certain you wish to delete "_s + name + u"   "_s + trash.words(),
                               Msg::YesNo + Msg::Question, u" Delete Selected Playlist"_s) != Msg::ResultYes)
         return;
     try {
-        launcher.files.remove(PlaylistPath(launcher.paths, name));
+        if (!trash.discard(PlaylistPath(launcher.paths, name)))
+            return;
         ReadPlaylists(launcher);
         launcher.settings.PlaylistName =
             launcher.facts.playlists.isEmpty() ? QString() : launcher.facts.playlists.last();
-    } catch (const FileError&) {
-        ReportPlaylistError(launcher.prompts);
+    } catch (const FileError& error) {
+        ReportPlaylistError(launcher.prompts, error);
     }
 }
 
@@ -131,8 +133,8 @@ void assign(Launcher& launcher, AutoGame game)
     const QString name = chosenPlaylist(launcher);
     try {
         SetAutoPlaylist(launcher.files, launcher.paths, name, game);
-    } catch (const FileError&) {
-        ReportPlaylistError(launcher.prompts);
+    } catch (const FileError& error) {
+        ReportPlaylistError(launcher.prompts, error);
         return;
     }
     ReadPlaylists(launcher);

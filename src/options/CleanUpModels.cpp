@@ -3,6 +3,7 @@
 #include "options/PackFacts.h"
 #include "options/RemovalReport.h"
 #include "platform/Text.h"
+#include "shell/Trash.h"
 
 #include <algorithm>
 
@@ -32,14 +33,10 @@ bool isConfirmed(Launcher& launcher)
 }
 
 // False when it stayed.
-bool removeItem(FileSystem& files, const ModelPackItem& item)
+bool removeItem(Trash& trash, const ModelPackItem& item)
 {
     try {
-        if (item.isFolder)
-            files.removeTree(item.path);
-        else
-            files.remove(item.path);
-        return true;
+        return trash.discard(item.path);
     } catch (const FileError&) {
         return false;
     }
@@ -65,6 +62,8 @@ void CleanUpModels(Launcher& launcher)
         return;
     const QStringList left = DeleteModelPacks(launcher, everything);
     QString text = u"Important: Close down the launcher before re-installing any model packs.    "_s;
+    if (launcher.files.hasTrash())
+        text += u"\r\n What was removed lies in the trash.    "_s;
     if (!left.isEmpty())
         text += u"\r\n\r\n"_s + RemovalReport(left, launcher.paths.RootPath);
     launcher.prompts.MsgboxPos(text, Msg::Ok + (left.isEmpty() ? Msg::Information : Msg::Exclamation),
@@ -74,10 +73,11 @@ void CleanUpModels(Launcher& launcher)
 QStringList DeleteModelPacks(Launcher& launcher, const ModelCleanup& cleanup)
 {
     FileSystem& files = launcher.files;
+    Trash trash(files, launcher.prompts);
     const auto isGone = [&files](const QString& path) { return files.actualPath(path) != path; };
     QStringList failed;
     for (const ModelPackItem& item : FindModelPackItems(files, launcher.paths, cleanup))
-        if (std::ranges::all_of(item.onlyWithout, isGone) && !removeItem(files, item))
+        if (std::ranges::all_of(item.onlyWithout, isGone) && !removeItem(trash, item))
             failed << item.path;
     failed.removeIf(isGone); // with the folder that they were in
 

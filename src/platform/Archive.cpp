@@ -2,9 +2,10 @@
 
 #include "platform/FileNames.h"
 #include "platform/MemberName.h"
+#include "platform/ZipEnd.h"
 
 #include <QFile>
-#include <QSet>
+#include <QHash>
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -20,6 +21,10 @@ constexpr int mostMembers = 65536;
 // From this size on a game's files do not pack any better.
 constexpr qint64 ratioCounts = 64 * mebibyte;
 constexpr qint64 largestRatio = 300;
+// The whole directory is read at once: 256 bytes for each member.
+constexpr qint64 largestDirectory = qint64{mostMembers} * 256;
+// How far from the end libarchive looks for the record that leads to the directory.
+constexpr qint64 endOfZip = 16 * 1024;
 
 // What ends an extraction early.
 struct Ended
@@ -39,7 +44,7 @@ public:
         if (!m_file.open(QIODevice::ReadOnly))
             throw FileError(FileError::Kind::PermissionDenied, path, m_file.errorString());
         for (const QString& name : m_files.files(m_folder))
-            m_present.insert(name.toCaseFolded());
+            m_present.insert(name.toCaseFolded(), name);
     }
     ~Reader() { archive_read_free(m_archive); }
     Reader(const Reader&) = delete;
@@ -48,6 +53,7 @@ public:
     void extract()
     {
         constexpr size_t blockSize = 256 * 1024;
+        checkEnd();
         // The directory at the file's end alone says what an archive holds: one that was cut off has none.
         archive_read_support_format_zip_seekable(m_archive);
         archive_read_set_passphrase_callback(m_archive, this, &Reader::passphrase);
@@ -58,16 +64,44 @@ public:
         for (int members = 0;; ++members) {
             const int result = archive_read_next_header(m_archive, &entry);
             if (result == ARCHIVE_EOF)
-                return;
+                break;
             require(result);
             if (members == mostMembers)
                 throw Ended{Extraction::TooLarge};
             goOn();
             extractMember(entry);
         }
+        if (!m_anyFile)
+            throw Ended{Extraction::NoFiles};
     }
 
 private:
+    void checkEnd()
+    {
+        const std::optional<ZipEnd> end = ReadZipEnd(m_file);
+        if (!end)
+            throw Ended{Extraction::NotAZip};
+        if (end->bytesAfter > endOfZip)
+            throw Ended{Extraction::LongComment};
+        if (end->directory > largestDirectory)
+            throw Ended{Extraction::TooLarge};
+        m_file.seek(0);
+    }
+
+    // libarchive tells a member's packing in its words for the format: "ZIP 2.0 (deflation)". Of what is
+    // encrypted by the newer way it tells no more. It would give a
+    // dictionary of LZMA and its like as much memory as the member asks for.
+    void checkPacking() const
+    {
+        const QByteArray words = archive_format_name(m_archive);
+        const auto is = [&words](const char* packing) { return words.endsWith(packing); };
+        if (is("(uncompressed)") || is("(deflation)") || is("(bzip)") || is("(aes)"))
+            return;
+        throw Ended{is("(deflation-64-bit)") ? Extraction::Deflate64
+                    : is("(imploded)")       ? Extraction::Imploded
+                                             : Extraction::OtherPacking};
+    }
+
     void extractMember(archive_entry* entry)
     {
         const QString member = MemberNameOf(entry);
@@ -78,12 +112,18 @@ private:
         const QDateTime modified = archive_entry_mtime_is_set(entry)
                                        ? QDateTime::fromSecsSinceEpoch(archive_entry_mtime(entry))
                                        : QDateTime();
+        checkPacking();
         // What is there already may be a link: it is replaced, not written through.
-        if (m_present.contains(name.toCaseFolded()))
+        if (QString& present = m_present[name.toCaseFolded()]; present != name) {
+            if (!present.isEmpty())
+                m_files.remove(m_folder + present);
+            present = name;
+        } else {
             m_files.remove(m_folder + name);
-        m_present.insert(name.toCaseFolded());
+        }
         m_files.create(
             m_folder + name, [this] { return nextPiece(); }, modified);
+        m_anyFile = true;
     }
 
     // The bytes stay libarchive's until the next call.
@@ -122,7 +162,9 @@ private:
         if (m_thrown)
             std::rethrow_exception(m_thrown);
         if (result != ARCHIVE_OK && result != ARCHIVE_WARN) // a member's name may have warned
-            throw Ended{Extraction::NotAZip};
+            throw Ended{QByteArray(archive_error_string(m_archive)).toLower().contains("passphrase")
+                            ? Extraction::NoPassword
+                            : Extraction::NotAZip};
     }
 
     // An exception must not pass through libarchive: it is thrown again behind it.
@@ -147,7 +189,8 @@ private:
     QByteArray m_password;
     std::exception_ptr m_thrown;
     qint64 m_unpacked = 0;
-    QSet<QString> m_present; // names in the folder
+    QHash<QString, QString> m_present; // names in the folder, by themselves without regard to case
+    bool m_anyFile = false;            // was extracted
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "platform/Rename.h"
 #include "platform/Spelling.h"
 #include "platform/SystemError.h"
+#include "platform/SystemTrash.h"
 
 #include <QDir>
 #include <QFile>
@@ -319,7 +320,8 @@ void DiskFileSystem::copy(const QString& from, const QString& to)
 void DiskFileSystem::create(const QString& path, const std::function<QByteArray()>& next,
                             const QDateTime& modified)
 {
-    const QString target = FindTarget(path).path;
+    // Other spellings are not looked for: among thousands of files that costs more than to write them.
+    const QString target = Joined(FindTarget(FolderOf(path)).path, FileNameOf(path));
     if (StatusOf(target).isLink)
         QFile::remove(target); // what it leads to is another file
     RequireWritable(target);
@@ -407,6 +409,29 @@ void DiskFileSystem::removeTree(const QString& path)
     }
     if (error)
         Fail(found.path, error);
+}
+
+bool DiskFileSystem::hasTrash() const
+{
+    return HasTrash();
+}
+
+bool DiskFileSystem::moveToTrash(const QString& path)
+{
+    const Found found = FindTarget(path);
+    if (!found.whole)
+        throw FileError(Kind::NotFound, path, u"no such file or folder"_s);
+    if (StatusOf(found.path).isLink) { // by which nothing is lost
+        remove(found.path);
+        return true;
+    }
+    QFile entry(found.path);
+    if (entry.moveToTrash())
+        return true;
+    // A system that could not keep it may say no and have deleted it all the same.
+    if (!StatusOf(found.path).isThere)
+        throw FileError(Kind::Other, found.path, u"gone without reaching the trash"_s);
+    return false;
 }
 
 void DiskFileSystem::removeFolder(const QString& path)

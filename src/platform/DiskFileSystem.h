@@ -28,5 +28,7 @@ public:
     void remove(const QString& path) override;
     void createFolder(const QString& path) override;
     void removeTree(const QString& path) override;
+    bool hasTrash() const override;
+    bool moveToTrash(const QString& path) override;
     void removeFolder(const QString& path) override;
 };

@@ -7,7 +7,7 @@
 class FileError : public std::runtime_error
 {
 public:
-    enum class Kind { PermissionDenied, NotFound, Exists, InUse, Held, Other };
+    enum class Kind { PermissionDenied, NotFound, Exists, InUse, Held, DiskFull, Other };
 
     // `path` is the file or folder that the operation stumbled over; `detail` is the system's own text.
     FileError(Kind kind, const QString& path, const QString& detail);

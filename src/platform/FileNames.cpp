@@ -53,7 +53,7 @@ QString shortened(QString name)
 
 bool IsUsableName(const QString& name)
 {
-    return !name.trimmed().isEmpty() && !endsBadly(name) && !isDevice(name) &&
+    return !name.trimmed().isEmpty() && !name.startsWith(u'-') && !endsBadly(name) && !isDevice(name) &&
            std::ranges::none_of(name, isForbidden) && name.toUtf8().size() <= longestName;
 }
 
@@ -68,7 +68,7 @@ QString UsableNameOf(const QString& memberName)
         name.chop(1);
     if (name.trimmed().isEmpty())
         return {};
-    name = shortened(isDevice(name) ? u'_' + name : name);
+    name = shortened(isDevice(name) || name.startsWith(u'-') ? u'_' + name : name);
     return IsUsableName(name) ? name : QString();
 }
 

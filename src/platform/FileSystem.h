@@ -94,9 +94,10 @@ public:
     // `write`. Throws FileError.
     virtual void copy(const QString& from, const QString& to) = 0;
 
-    // Creates a file, or replaces one in place, of the pieces that `next` returns until one is empty, without
-    // waiting for the disk: for files in a folder that nobody uses yet. `modified`, if valid, becomes the
-    // time of its last change. A failure, also what `next` throws, leaves no such file. Throws FileError.
+    // Creates a file of that very spelling, or replaces it in place, of the pieces that `next` returns until
+    // one is empty, without waiting for the disk: for files in a folder that nobody uses yet. `modified`, if
+    // valid, becomes the time of its last change. A failure, also what `next` throws, leaves no such file.
+    // Throws FileError.
     virtual void create(const QString& path, const std::function<QByteArray()>& next,
                         const QDateTime& modified) = 0;
 
@@ -115,6 +116,14 @@ public:
     // to. One that does not exist is no failure. Throws FileError; then some of it may be gone, and its
     // read-only folders may have become writable.
     virtual void removeTree(const QString& path) = 0;
+
+    // Whether the system has a trash for what is deleted.
+    virtual bool hasTrash() const = 0;
+
+    // Moves a file or a folder with all that is in it there, whole or not at all; a link is deleted, not what
+    // it leads to. False, and nothing has changed, when the trash does not take it. Throws FileError when
+    // nothing is at `path`.
+    virtual bool moveToTrash(const QString& path) = 0;
 
     // Deletes an empty folder; throws FileError, also when the folder holds something.
     virtual void removeFolder(const QString& path) = 0;

@@ -14,7 +14,7 @@ struct Captured
 {
     bool started = false;
     QString error;     // when it was not started: the system's error number (its words if that is unknown)
-    QByteArray output; // both streams, in the order written
+    QByteArray output; // both streams, in the order written; at most 256 KiB
 };
 
 // What is told of a program that was started; from the event loop, while the `Processes` lives.

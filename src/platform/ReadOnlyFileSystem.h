@@ -66,6 +66,8 @@ public:
         if (isScratch(path))
             m_disk.removeTree(path);
     }
+    bool hasTrash() const override { return m_disk.hasTrash(); }
+    bool moveToTrash(const QString&) override { return true; }
     void removeFolder(const QString& path) override
     {
         if (isScratch(path))

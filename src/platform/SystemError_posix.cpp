@@ -31,6 +31,9 @@ FileError::Kind KindOfSystemError(int number)
     case EBUSY:
     case ETXTBSY:
         return InUse;
+    case ENOSPC:
+    case EDQUOT:
+        return DiskFull;
     default:
         return Other;
     }

@@ -33,6 +33,10 @@ FileError::Kind KindOfSystemError(int number)
     case ERROR_LOCK_VIOLATION:
     case ERROR_USER_MAPPED_FILE:
         return InUse;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+    case ERROR_DISK_QUOTA_EXCEEDED:
+        return DiskFull;
     default:
         return Other;
     }
@@ -44,10 +48,13 @@ FileError::Kind KindOfSystemError(const std::error_code& error)
     if (error.category() == std::system_category())
         return KindOfSystemError(error.value());
     // The C runtime's numbers.
-    return error == std::errc::permission_denied || error == std::errc::operation_not_permitted
-               ? PermissionDenied
-           : error == std::errc::no_such_file_or_directory                                     ? NotFound
-           : error == std::errc::file_exists || error == std::errc::directory_not_empty        ? Exists
-           : error == std::errc::device_or_resource_busy || error == std::errc::text_file_busy ? InUse
-                                                                                               : Other;
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted)
+        return PermissionDenied;
+    if (error == std::errc::no_such_file_or_directory)
+        return NotFound;
+    if (error == std::errc::file_exists || error == std::errc::directory_not_empty)
+        return Exists;
+    if (error == std::errc::device_or_resource_busy || error == std::errc::text_file_busy)
+        return InUse;
+    return error == std::errc::no_space_on_device ? DiskFull : Other;
 }

@@ -86,8 +86,14 @@ Captured SystemProcesses::capture(const QString& commandLine, const QString& fol
     process.start();
     if (!process.waitForStarted(-1))
         return {false, ErrorNumber(process.errorString()), {}};
+    constexpr qsizetype largest = 256 * 1024;
+    QByteArray output;
+    do {
+        output += process.readAll();
+        output.truncate(largest);
+    } while (process.waitForReadyRead(-1));
     process.waitForFinished(-1);
-    return {true, {}, process.readAll()};
+    return {true, {}, output};
 }
 
 bool SystemProcesses::start(const QString& commandLine, const QString& folder)

@@ -1,23 +1,28 @@
 #include "savegames/DeleteSaveGames.h"
 
 #include "savegames/SaveGames.h"
+#include "shell/Trash.h"
 #include "start/Start.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void deleteAll(Launcher& launcher)
+void deleteAll(Launcher& launcher, Trash& trash)
 {
     FileSystem& files = launcher.files;
     const InstallationPaths& paths = launcher.paths;
     const QString saves = paths.RootPath + u"/UserSG/"_s;
+    QStringList folders;
     for (const QString& folder : files.folders(saves))
-        files.removeTree(saves + folder);
+        folders << saves + folder;
     for (const QString& game : files.foldersHolding(paths.GamesPath, {u"savegame"_s}))
-        files.removeTree(paths.GamesPath + game + u"/savegame"_s);
+        folders << paths.GamesPath + game + u"/savegame"_s;
+    for (const QString& folder : folders)
+        if (!trash.discard(folder))
+            return;
     files.removeTree(paths.RootPath + u"/VYKanfiles"_s);
-    files.removeTree(paths.LaunchPath + u"GameInfo/Save"_s); // Gwads and Zip lie in it
+    trash.discard(paths.LaunchPath + u"GameInfo/Save"_s); // Gwads and Zip lie in it
 }
 
 void purgeClicked(Launcher& launcher)
@@ -25,8 +30,9 @@ void purgeClicked(Launcher& launcher)
     const QString question =
         u"  This is a quick method of removing all previously saved games.        \r\n\r\n"
         "                          Do you wish to continue?"_s;
-    if (launcher.prompts.MsgboxPos(question, Msg::YesNo + Msg::Question, u" Purge all savegames "_s) !=
-        Msg::ResultYes)
+    const Trash trash(launcher.files, launcher.prompts);
+    if (launcher.prompts.MsgboxPos(question + trash.words(), Msg::YesNo + Msg::Question,
+                                   u" Purge all savegames "_s) != Msg::ResultYes)
         return;
     PurgeSaveGames(launcher);
     RefreshSaveGames(launcher); // those that could not be deleted are still there
@@ -43,12 +49,14 @@ void ConnectDeleteSaveGames(Launcher& launcher)
 void DeleteSaveGame(Launcher& launcher)
 {
     const QString slot = launcher.chosenSlot();
+    Trash trash(launcher.files, launcher.prompts);
     if (slot.isEmpty() || launcher.prompts.MsgboxPos(
-                              u"Are you certain you wish to delete this savegame?     "_s,
+                              u"Are you certain you wish to delete this savegame?     "_s + trash.words(),
                               Msg::YesNo + Msg::Question, u" Delete selected savegame"_s) != Msg::ResultYes)
         return;
     try {
-        launcher.files.remove(SaveGameFolder(launcher) + u"/KeldraxSav"_s + slot + u".vyksg"_s);
+        if (!trash.discard(SaveGameFolder(launcher) + u"/KeldraxSav"_s + slot + u".vyksg"_s))
+            return;
     } catch (const FileError&) {
         return;
     }
@@ -60,7 +68,8 @@ void DeleteSaveGame(Launcher& launcher)
 void PurgeSaveGames(Launcher& launcher)
 {
     try {
-        deleteAll(launcher);
+        Trash trash(launcher.files, launcher.prompts);
+        deleteAll(launcher, trash);
     } catch (const FileError&) {
         launcher.prompts.MsgboxPos(u"Access denied - file or folder already in use.    "_s,
                                    Msg::Ok + Msg::Exclamation, u" Access error "_s);

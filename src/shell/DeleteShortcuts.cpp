@@ -24,7 +24,8 @@ void DeleteShortcuts(FileSystem& files, const ShortcutFolders& folders, const QS
         for (const QString& file : files.files(folder)) {
             if (!BaseNameOf(file).startsWith(written, Qt::CaseInsensitive))
                 continue;
-            files.remove(folder + u'/' + file);
+            if (!files.hasTrash() || !files.moveToTrash(folder + u'/' + file))
+                files.remove(folder + u'/' + file);
             found = true;
         }
     }

@@ -9,5 +9,5 @@ QString ShortcutFileName(const QString& name, const QString& mapSuffix);
 
 // Deletes the shortcuts whose names begin with `name`, without regard to case, also read-only ones: a Gwad
 // game's are named after the game, " - " and a file, so its name alone takes all of them. An empty name
-// deletes nothing. Throws FileError.
+// deletes nothing. They go to the trash, as their game does. Throws FileError.
 void DeleteShortcuts(FileSystem& files, const ShortcutFolders& folders, const QString& name);

@@ -89,12 +89,13 @@ struct ResolutionFacts
     QString refreshRate;
 };
 
-// The zip whose files lie extracted in the zip folder, and the state that both were in.
+// The zip whose files lie extracted in a folder of their own, and the state that both were in.
 struct OpenedArchive
 {
     QString path;
-    FileStamp archive;
-    FileStamp folder;
+    QString folder; // ends in '/'
+    FileStamp archiveStamp;
+    FileStamp folderStamp;
     bool operator==(const OpenedArchive&) const = default;
 };
 

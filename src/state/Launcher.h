@@ -9,6 +9,8 @@
 #include "state/Truth.h"
 #include "ui/Prompts.h"
 
+#include <QLockFile>
+
 struct StartUpState
 {
     QString LauncherVersion;
@@ -20,13 +22,23 @@ struct StartUpState
     bool RestartRequested = false;
 };
 
+struct OpenedFolder
+{
+    QString path; // without '/' at its end
+    std::shared_ptr<QLockFile> lock;
+};
+
 // What makes a dialog start where the last one ended. Nothing that is shown or launched depends on it.
 struct Session
 {
-    QString documentationFolder;    // of the documentation opened last, with '/'
-    QString LastInstallFolder;      // of the file installed last
-    QString MusicFolder;            // where music was added from last
+    QString documentationFolder; // of the documentation opened last, with '/'
+    QString LastInstallFolder;   // of the file installed last
+    QString MusicFolder;         // where music was added from last
+    // The folders of the two zips opened last, the newest first: while their locks are held, no launcher
+    // deletes what is in them.
+    QList<OpenedFolder> openedFolders;
     bool passwordsDeclined = false; // the player has none: no zip asks for one again
+    bool toolFailed = false;        // the game-file tool could not be started, and a message has said so
     bool AfterLaunch = false;       // a game was started and the window has not been back since
 };
 

@@ -4,6 +4,7 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +47,9 @@ std::optional<QString> runTool(Launcher& launcher, const QString& operation, con
     const QString commandLine = operation + u'"' + NativePath(path) + u'"';
     const Captured captured = launcher.processes.capture(commandLine, launcher.paths.RootPath + u"/Bin"_s);
     if (!captured.started) {
-        launcher.prompts.MsgboxPos(u"CreateProcess failed. Error: "_s + captured.error, Msg::Ok, QString());
+        if (!std::exchange(launcher.session.toolFailed, true)) // once, not for each of a game's WADs
+            launcher.prompts.MsgboxPos(u"CreateProcess failed. Error: "_s + captured.error, Msg::Ok,
+                                       QString());
         return std::nullopt;
     }
     return FromAnsi(captured.output);
@@ -115,12 +118,13 @@ std::optional<QList<SaveGame>> ListSavegameHeaders(Launcher& launcher, const QSt
 int CheckPwad(const FileSystem& files, const InstallationPaths& paths, const QString& path)
 {
     const QString list = paths.LaunchDataPath + u"checkpwad.vyk"_s;
+    constexpr qint64 largestList = 1024 * 1024; // bytes
     if (!files.fileExists(list))
         return 0;
     try {
         const QString name = FileNameOf(path);
         int section = 1;
-        for (const QString& field : FieldsOf(FromAnsi(files.read(list)))) {
+        for (const QString& field : FieldsOf(FromAnsi(files.read(list, largestList)))) {
             if (SameName(field, name))
                 return section;
             if (const int started = sectionStartedBy(field))

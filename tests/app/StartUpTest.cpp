@@ -27,7 +27,6 @@ public:
     bool placeIsFree = true;
     bool otherAnswers = true;
     bool loadedAtClaim = false;
-    bool captionAtClaim = false;
     bool hasComponents = true;
 
     StartResult start(const QString& arguments = {})
@@ -35,7 +34,6 @@ public:
         const auto note = [this](const QString& call) {
             window.calls << call;
             loadedAtClaim = installation.exists(u"VYKGames"_s);
-            captionAtClaim = !launcher.startUp.WindowCaption.isEmpty();
         };
         return Main(launcher, arguments,
                     {.claimInstance = [=, this] { return note(u"claim"_s), placeIsFree; },
@@ -83,7 +81,7 @@ private Q_SLOTS:
                 QVERIFY(QFile::remove(f.path(u"Bin/"_s + name)));
             f.prompts.expectMessage();
             QCOMPARE(f.start(), StartResult::Ended);
-            QCOMPARE(f.window.calls, QStringList({u"show"_s, u"hide"_s, u"endProgram"_s}));
+            QCOMPARE(f.window.calls, QStringList({u"claim"_s, u"show"_s, u"hide"_s, u"endProgram"_s}));
             QCOMPARE(f.prompts.texts, {reported + u" has not been detected - re-install Keldrax.    "_s});
             QCOMPARE(f.prompts.titles, {u"Startup error"_s});
             QCOMPARE(f.prompts.styles, {4096});

@@ -71,7 +71,8 @@ public:
 
 private:
     TemporaryInstallation& m_installation;
-    DiskFileSystem m_files;
+    DiskFileSystem m_disk;
+    FailingFileSystem m_files{m_disk}; // without a trash
     SystemProcesses m_processes{m_files};
     ConnectedLauncher m_launcher;
 };

@@ -68,7 +68,8 @@ public:
     {
         Contents found;
         for (const QString& file : installation.tree())
-            if (!file.endsWith(u"pwad.vyk"_s))
+            if (!file.endsWith(u"pwad.vyk"_s) && !file.startsWith(u"VYKLaunch/Zips/other"_s) &&
+                !file.startsWith(u"VYKLaunch/Zips/pack"_s) && !file.startsWith(u"VYKLaunch/Zips/new"_s))
                 found[file] = installation.read(file);
         return found;
     }

@@ -312,7 +312,8 @@ private Q_SLOTS:
         }
     }
 
-    // What an installation that was cut off had moved aside comes back; what it had replaced for good goes.
+    // What an installation that was cut off had moved aside comes back, an addition that was decided is done,
+    // and what was replaced for good goes.
     void recovering()
     {
         Library library;
@@ -325,12 +326,13 @@ private Q_SLOTS:
         library.installation.add(work + u"games/Auto/Gwads/auto.wad"_s, "replaced");
         library.installation.add(work + u"gone/Old/Pwads/old.wad"_s, "removed");
         library.installation.add(work + u"Pwads/own.wad"_s, "somebody's game of that name");
-        QDir(library.path(work)).mkpath(u"files/Auto/Gwads"_s);
-        QVERIFY(QFile::rename(library.path(u"VYKGames/Auto/Gwads/pack.deh"_s),
-                              library.path(work + u"files/Auto/Gwads/pack.deh"_s)));
+        library.installation.add(work + u"adding/Auto/Gwads/pack.deh"_s, "new");
+        library.installation.add(work + u"adding/Auto/Gwads/more.wad"_s, "more");
         RecoverGames(library.files, library.launcher.paths.GamesPath);
         auto games = library.games();
         QCOMPARE(games.take(u".installing/Pwads/own.wad"_s), "somebody's game of that name");
+        QCOMPARE(std::exchange(games[u"Auto/Gwads/pack.deh"_s], before[u"Auto/Gwads/pack.deh"_s]), "new");
+        QCOMPARE(games.take(u"Auto/Gwads/more.wad"_s), "more");
         QVERIFY(games == before);
     }
 };

@@ -33,7 +33,7 @@ public:
         addWad(u"VYKGames/Auto Game/Gwads/third.wad"_s, {u"MAP05"_s});
         addWad(u"VYKGames/L\u00e4ufer 100% & Co/Pwads/z\u00fc rich.wad"_s, {u"MAP11"_s});
         const QByteArray wad = TemporaryInstallation::wad("PWAD", {u"MAP01"_s, u"MAP02"_s});
-        installation.add(u"VYKArchives/Some Game.zip"_s,
+        installation.add(u"VYKArchives/some game.zip"_s,
                          ZipMaker()
                              .add({.name = "Pack \xc3\xa9.wad", .bytes = wad, .isUtf8 = true})
                              .add("extra.wad", TemporaryInstallation::wad("PWAD", {u"TEXTURE1"_s}))
@@ -109,10 +109,12 @@ private Q_SLOTS:
                  game.show(View::ZipLibrary);
                  game.pickMap(u"MAP02"_s);
              },
-             u"-f \"%1/VYKLaunch/Zips/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/extra.wad\" "
-             "-deh \"%1/VYKLaunch/Zips/p.deh\" -d \"%1/VYKLaunch/Zips/q.ded\" "_s,
-             u"-f \"%1/VYKLaunch/Zips/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/extra.wad\" "
-             "-deh \"%1/VYKLaunch/Zips/p.deh\" -d \"%1/VYKLaunch/Zips/q.ded\" "_s,
+             u"-f \"%1/VYKLaunch/Zips/some game.zip/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/some "
+             u"game.zip/extra.wad\" "
+             "-deh \"%1/VYKLaunch/Zips/some game.zip/p.deh\" -d \"%1/VYKLaunch/Zips/some game.zip/q.ded\" "_s,
+             u"-f \"%1/VYKLaunch/Zips/some game.zip/Pack \u00e9.wad\" \"%1/VYKLaunch/Zips/some "
+             u"game.zip/extra.wad\" "
+             "-deh \"%1/VYKLaunch/Zips/some game.zip/p.deh\" -d \"%1/VYKLaunch/Zips/some game.zip/q.ded\" "_s,
              u"-wp 02 "_s},
         };
         const QString options = u"-np -nht -3d -ch 128 -ro -ct 9 -cmd \"rend-light 1\" \"rend-smoke 0\" "
@@ -142,15 +144,15 @@ private Q_SLOTS:
         }
     }
 
-    // Another launcher has put another zip's files in their place: the zip is opened again.
+    // Somebody has deleted its files: the zip is opened again.
     void aZipIsOpenedAgain()
     {
         InstalledGame game;
         game.show(View::ZipLibrary);
         game.pickMap(u"MAP02"_s);
-        QVERIFY(QFile::remove(game.path(u"VYKLaunch/Zips/Pack \u00e9.wad"_s)));
+        QVERIFY(QFile::remove(game.path(u"VYKLaunch/Zips/some game.zip/Pack \u00e9.wad"_s)));
         QVERIFY(game.launchedLine().endsWith(u"-wp 02 "_s));
-        QVERIFY(game.installation.exists(u"VYKLaunch/Zips/Pack \u00e9.wad"_s));
+        QVERIFY(game.installation.exists(u"VYKLaunch/Zips/some game.zip/Pack \u00e9.wad"_s));
     }
 
     void anAutoLoadingGameRemembersFileAndMap()

@@ -31,7 +31,7 @@ public:
         form->show();
     }
 
-    PlaylistEditor editor{launcher};
+    PlaylistEditor editor{launcher, QStringLiteral("Mine")};
     std::unique_ptr<MusicForm> form;
 
     PlaylistView& list() { return *form->findChild<PlaylistView*>(u"MusicList"_s); }

@@ -92,7 +92,7 @@ private Q_SLOTS:
         for (const QString& name : f.launcher.facts.playlists) // each opens without a question
             if (name != u"Tavro - TNT"_s) {
                 f.launcher.settings.PlaylistName = name;
-                PlaylistEditor editor(f.launcher);
+                PlaylistEditor editor(f.launcher, f.launcher.settings.PlaylistName);
                 QVERIFY(editor.open());
                 QVERIFY(editor.close());
                 QVERIFY(!editor.canToggle());
@@ -319,7 +319,7 @@ private Q_SLOTS:
         f.addPlaylist(u"Mine"_s, lines);
         f.launcher.settings.PlaylistName = u"Mine"_s;
         f.installation.add(u"OggVorbis/own/b.OGG"_s);
-        PlaylistEditor editor(f.launcher);
+        PlaylistEditor editor(f.launcher, f.launcher.settings.PlaylistName);
         QVERIFY(editor.open());
 
         for (const int line : {-1, 0, 1, 43}) // no entry: no dialog
@@ -366,7 +366,7 @@ private Q_SLOTS:
         Fixture f;
         f.addPlaylist(u"Mine"_s);
         f.launcher.settings.PlaylistName = u"Mine"_s;
-        PlaylistEditor editor(f.launcher);
+        PlaylistEditor editor(f.launcher, f.launcher.settings.PlaylistName);
         QVERIFY(editor.open());
         editor.setTrack(11, 1);
         const QString path = f.path(fileOf(u"Mine"_s));
@@ -401,7 +401,7 @@ private Q_SLOTS:
             Fixture f;
             f.installation.add(fileOf(u"Odd"_s), bytes);
             f.launcher.settings.PlaylistName = u"Odd"_s;
-            PlaylistEditor editor(f.launcher);
+            PlaylistEditor editor(f.launcher, f.launcher.settings.PlaylistName);
             if (!isWhole)
                 f.prompts.expectMessage();
             QVERIFY(editor.open());

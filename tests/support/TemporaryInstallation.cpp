@@ -31,6 +31,9 @@ QByteArray LittleEndian(qsizetype number)
 TemporaryInstallation::TemporaryInstallation()
 {
     Require(m_folder.isValid(), m_folder.path());
+    // What is deleted does not go to the trash of whoever runs the tests.
+    static const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
 }
 
 QString TemporaryInstallation::nativePath(const QString& relativePath) const

@@ -51,15 +51,15 @@ private Q_SLOTS:
         saves.present();
         put(u"e9=new e12=further e2="_s, 50);
         saves.publish();
-        QCOMPARE(all(), u"K0=kept K9=new e0=kept e12=further e2= e9=new"_s);
+        QCOMPARE(all(), u"K0=kept K9.old=old K9=new e0=kept e12=further e2= e9=new"_s);
         // The player deletes a savegame in the launcher: an unchanged copy does not bring it back now.
         QVERIFY(QFile::remove(m_folder->path(u"KeldraxSav9.vyksg"_s)));
         saves.publish();
-        QCOMPARE(all(), u"K0=kept e0=kept e12=further e2= e9=new"_s);
+        QCOMPARE(all(), u"K0=kept K9.old=old e0=kept e12=further e2= e9=new"_s);
         put(u"e3=last e9=newest"_s, 20);
         saves.publishAll(); // an empty file is no savegame
         saves.removePublished();
-        QCOMPARE(all(), u"K0=kept K3=last K9=newest e12=further e2="_s);
+        QCOMPARE(all(), u"K0=kept K3=last K9.old=old K9=newest e12=further e2="_s);
         QCOMPARE(saves.problems(), QStringList{});
     }
 

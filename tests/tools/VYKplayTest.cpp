@@ -118,11 +118,11 @@ private Q_SLOTS:
         const QStringList before = m_installation->tree();
         QCOMPARE(run({u"maps"_s, u"some"_s}).out, u"MAP08\n"_s);
         const QString line = run({u"play"_s, u"some"_s, u"--map"_s, u"map08"_s, u"--dry-run"_s}).out;
-        QVERIFY2(
-            line.contains(u" -f \"%1\" "_s.arg(m_installation->nativePath(u"VYKLaunch/Zips/some.wad"_s))),
-            qPrintable(line));
+        QVERIFY2(line.contains(
+                     u" -f \"%1\" "_s.arg(m_installation->nativePath(u"VYKLaunch/Zips/some.zip/some.wad"_s))),
+                 qPrintable(line));
         QStringList extracted = m_installation->tree();
-        QVERIFY(extracted.removeOne(u"VYKLaunch/Zips/some.wad"_s));
+        QVERIFY(extracted.removeOne(u"VYKLaunch/Zips/some.zip/some.wad"_s));
         QCOMPARE(extracted, before);
     }
 

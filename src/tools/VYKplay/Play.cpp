@@ -89,6 +89,8 @@ int listGames(Launcher& launcher, const Arguments& arguments, QTextStream& out)
 
 int listMaps(const Launcher& launcher, QTextStream& out)
 {
+    if (launcher.gameIs(GameKind::Archive) && launcher.facts.opened.path.isEmpty())
+        return refused; // a message has said why
     for (const QString& map : launcher.facts.file.maps)
         out << map << Qt::endl;
     return done;
@@ -195,6 +197,15 @@ int install(Launcher& launcher, const Arguments& arguments, QTextStream& err)
     return all ? done : refused;
 }
 
+// What an installation that was cut off has left; what cannot be put right is left for the next command.
+void recoverGames(FileSystem& files, const QString& root)
+{
+    try {
+        RecoverGames(files, InstallationPaths(root).GamesPath);
+    } catch (const FileError&) {
+    }
+}
+
 int run(Launcher& launcher, const Arguments& arguments, QTextStream& out, QTextStream& err)
 {
     if (arguments.command == Arguments::Command::Integrate && arguments.remove) {
@@ -236,6 +247,7 @@ int RunVYKplay(const Arguments& arguments, const QString& root, QTextStream& out
         return done;
     }
     DiskFileSystem disk;
+    recoverGames(disk, root);
     ReadOnlyFileSystem readOnly(disk, root + u"/VYKLaunch/Zips/"_s);
     SystemProcesses system(disk);
     PrintingProcesses printing(system, out);

@@ -1,6 +1,7 @@
 #include "platform/Console.h"
 #include "state/InstallationPaths.h"
 #include "tools/VYKplay/Play.h"
+#include "tools/VYKplay/TerminalOutput.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,7 +14,8 @@ int main(int argc, char** argv)
     const QString root = arguments.root.isEmpty()
                              ? InstallationPaths::rootOf(QCoreApplication::applicationFilePath())
                              : QDir(arguments.root).absolutePath();
-    QTextStream out(stdout);
-    QTextStream err(stderr);
+    TerminalOutput toOut(stdout), toErr(stderr);
+    QTextStream out(&toOut);
+    QTextStream err(&toErr);
     return RunVYKplay(arguments, root, out, err);
 }

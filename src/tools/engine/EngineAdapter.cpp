@@ -4,6 +4,7 @@
 #include "engines/EngineSwitches.h"
 #include "engines/FoundEngines.h"
 #include "platform/Complain.h"
+#include "platform/CutOffWrites.h"
 #include "platform/Locks.h"
 #include "platform/Paths.h"
 #include "platform/Processes.h"
@@ -192,6 +193,8 @@ int RunEngineAdapter(FileSystem& files, const QString& root, const QStringList& 
         // A second game may run in the same folder: the one that came first tidies up.
         QLockFile lock(saveFolder + u"/Keldrax.lock"_s);
         const bool first = TakeLock(lock, 0);
+        if (first)
+            DiscardCutOffWrites(files, saveFolder + u'/');
         EngineSavegames savegames(files, saveFolder, conventions.savegame.toString());
         first ? savegames.present() : savegames.presentMissing();
         // An engine that finds its slots empty saves over what lies in them.

@@ -56,6 +56,14 @@ void EngineSavegames::publishLeftOver(int slot)
         m_files.copy(engine, published);
 }
 
+// An engine that found no room writes half a savegame over a whole one: the one before stays beside.
+void EngineSavegames::publishOver(int slot)
+{
+    if (m_files.fileExists(publishedFile(slot)))
+        m_files.copy(publishedFile(slot), m_folder + u"/KeldraxSav%1.old"_s.arg(slot));
+    m_files.copy(engineFile(slot), publishedFile(slot));
+}
+
 void EngineSavegames::present()
 {
     forEachSlot([this](int slot) {
@@ -82,7 +90,7 @@ void EngineSavegames::publish()
         if (!changed.isValid() || changed == m_seen[slot])
             return;
         if (!isPublished(slot))
-            m_files.copy(engineFile(slot), publishedFile(slot));
+            publishOver(slot);
         m_seen[slot] = changed; // a change during the copy shows at the next call
     });
 }
@@ -91,7 +99,7 @@ void EngineSavegames::publishAll()
 {
     forEachSlot([this](int slot) {
         if (m_files.fileExists(engineFile(slot)) && !isPublished(slot))
-            m_files.copy(engineFile(slot), publishedFile(slot));
+            publishOver(slot);
     });
 }
 

@@ -42,6 +42,7 @@ private:
     QString publishedFile(int slot) const;
     bool isPublished(int slot) const;
     void publishLeftOver(int slot);
+    void publishOver(int slot);
     template <typename Action>
     void forEachSlot(Action action);
 

@@ -1,0 +1,6 @@
+#include "platform/SystemTrash.h"
+
+bool HasTrash()
+{
+    return true;
+}
