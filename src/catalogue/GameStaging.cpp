@@ -115,9 +115,9 @@ void recover(FileSystem& files, const QString& gamesPath)
         return;
     putBackGames(files, gamesPath, work + replacedGames);
     finishAdding(files, gamesPath, work);
-    discard(files, work + replacedFiles);
-    discard(files, work + gone);
-    for (const QString& own : {built, decided, replacedGames})
+    for (const QString& replaced : {replacedGames, replacedFiles, gone})
+        discard(files, work + replaced);
+    for (const QString& own : {built, decided})
         files.removeTree(work + own);
     if (files.files(work).isEmpty() && files.folders(work).isEmpty()) // what is not ours stays
         files.removeFolder(work);

@@ -90,6 +90,27 @@ private Q_SLOTS:
         }
     }
 
+    // What an end in the middle of a write left goes, but not what another launcher writes at the moment.
+    void cutOffWrites()
+    {
+        if (OnWindows)
+            QSKIP("Wine has no trash");
+        StartFixture f;
+        f.files.trash = true;
+        const QString old[] = {u"VYKLaunch/config.vyk.QwErTy"_s, u"VYKLaunch/Music/a.vym.AbCdEf"_s,
+                               u"VYKLaunch/config.vyk.bak"_s};
+        for (const QString& name : old) {
+            f.installation.add(name);
+            QFile file(f.path(name));
+            QVERIFY(file.open(QFile::ReadWrite) &&
+                    file.setFileTime(QDateTime(QDate(2020, 1, 1), QTime()), QFile::FileModificationTime));
+        }
+        f.installation.add(u"VYKLaunch/config.vyk.UiOpAs"_s);
+        QCOMPARE(f.start(), StartResult::Running);
+        QVERIFY(!f.installation.exists(old[0]) && !f.installation.exists(old[1]));
+        QVERIFY(f.installation.exists(old[2]) && f.installation.exists(u"VYKLaunch/config.vyk.UiOpAs"_s));
+    }
+
     void aMissingComponentEndsTheStart()
     {
         StartFixture f;

@@ -57,6 +57,15 @@ private Q_SLOTS:
         f.click(Tool::ZipFolder);
         QCOMPARE(f.archives(), ToAnsi(f.nativePath(u"Elsewhere"_s)) + "\r\n");
 
+        // What is opened there would be deleted with the next zip.
+        for (const QString& own : {u"VYKLaunch/Zips"_s, u"VYKLaunch"_s, u"VYKGames"_s, u"."_s}) {
+            f.installation.addFolder(own);
+            f.prompts.expectFile(f.path(own));
+            f.click(Tool::ZipFolder);
+            QCOMPARE(f.prompts.titles.last(), u" Zip library folder"_s);
+            QCOMPARE(f.archives(), ToAnsi(f.nativePath(u"Elsewhere"_s)) + "\r\n");
+        }
+
         f.disk.removeTree(f.path(u"Elsewhere"_s));
         f.files.failOn(u"archives.vyk"_s, FileError::Kind::PermissionDenied);
         f.prompts.expectFile({});

@@ -216,7 +216,7 @@ private Q_SLOTS:
         for (const QString& name : {u"beta"_s, u"ALPHA"_s})
             QVERIFY2(refuses(name, u" Duplicate name error"_s), qPrintable(name));
         for (const QString& name : {u"  "_s, u"../Beta2"_s, u"a\\b"_s, u".."_s, u"c:x"_s, u"what?"_s,
-                                    u"aux.wad"_s, u".Installing"_s, QString(300, u'x')})
+                                    u"aux.wad"_s, u"-fast"_s, u".Installing"_s, QString(300, u'x')})
             QVERIFY2(refuses(name, u" Renaming error"_s), qPrintable(name));
     }
 
@@ -255,6 +255,46 @@ private Q_SLOTS:
         QCOMPARE(file.gone(),
                  (QStringList{u"Menu/Keldrax Shortcuts/Beta - one.lnk"_s, u"VYKGames/Beta/Gwads/one.wad"_s,
                               u"VYKLaunch/GameInfo/Save/Gwads/beta/one.vyks"_s, u"gwa/one1.gwa"_s}));
+    }
+
+    // What is no WAD takes nothing with it.
+    void aReadme()
+    {
+        Collection text(u"BETA"_s);
+        text.installation.add(u"VYKGames/Beta/Gwads/one.txt"_s);
+        text.selectGame(u"ALPHA"_s);
+        text.selectGame(u"BETA"_s);
+        text.pickFile(u"one.txt"_s);
+        text.before = text.contents();
+        text.run(&Controls::mcDeleteFile);
+        QCOMPARE(text.gone(), QStringList{u"VYKGames/Beta/Gwads/one.txt"_s});
+    }
+
+    // The trash keeps what is removed, and its records are there when it comes back; what it does not take
+    // goes only when the player says so.
+    void theTrash()
+    {
+        const struct
+        {
+            bool takes;
+            int answer;
+            qsizetype gone;
+        } rows[] = {{true, 0, 11}, {false, Msg::ResultNo, 0}, {false, Msg::ResultYes, 13}};
+        for (const auto& row : rows) {
+            if (row.takes && OnWindows) // Wine has no trash
+                continue;
+            Collection games(u"ALPHA"_s);
+            games.files.trash = true;
+            games.files.trashTakes = row.takes;
+            games.prompts.expectMessage(Msg::ResultYes);
+            if (!row.takes)
+                games.prompts.expectMessage(row.answer);
+            games.controls.mcDeleteFolder.clicked();
+            QVERIFY(games.prompts.texts.first().endsWith(u"It goes to the trash.    "_s));
+            QCOMPARE(games.gone().size(), row.gone);
+            QCOMPARE(games.installation.exists(u"VYKLaunch/GameInfo/Pwads/alpha.vykm"_s),
+                     row.takes || row.gone == 0);
+        }
     }
 
     // A file whose name means a folder above, a model pack or another game's WAD takes nothing with it.

@@ -118,6 +118,21 @@ private Q_SLOTS:
         QVERIFY(f.hasList());
     }
 
+    // Of two for one game the player added the later one; what is away today is in the list tomorrow.
+    void aSecondOne()
+    {
+        IwadFixture f;
+        for (const QString& name : {u"Data/Doom2.wad"_s, u"x/Doom2.wad"_s})
+            f.installation.add(name);
+        const QString root = f.installation.root();
+        f.setList(ToAnsi(root + u"/Data/Doom2.wad\r\n"_s + root + u"/x/Doom2.wad\r\n/away/Tnt.wad\r\n"_s));
+        f.build();
+        QCOMPARE(f.iwads.of(GameFamily::Doom2), f.path(u"x/Doom2.wad"_s));
+        QCOMPARE(f.iwads.ShowIwads[0], f.path(u"x/Doom2.wad"_s));
+        SaveIwadList(f.iwads, f.files, f.launcher.paths);
+        QVERIFY(f.installation.read(u"VYKLaunch/Data/iwads.cfg"_s).contains("/away/Tnt.wad\r\n"));
+    }
+
     void uselessList()
     {
         for (const QByteArray& bytes :

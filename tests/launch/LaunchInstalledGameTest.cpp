@@ -1,4 +1,5 @@
 // Installed games and zips, from the choice to the engine's command line, or to the message that stops it.
+#include "catalogue/ZipLibrary.h"
 #include "launch/LaunchButton.h"
 
 #include "platform/DateOrder.h"
@@ -153,6 +154,29 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(game.path(u"VYKLaunch/Zips/some game.zip/Pack \u00e9.wad"_s)));
         QVERIFY(game.launchedLine().endsWith(u"-wp 02 "_s));
         QVERIFY(game.installation.exists(u"VYKLaunch/Zips/some game.zip/Pack \u00e9.wad"_s));
+    }
+
+    void eachLauncherHasAFolderForItsZip()
+    {
+        InstalledGame game;
+        game.show(View::ZipLibrary);
+        ConnectedLauncher other(game.files, game.processes, game.prompts, game.window,
+                                game.installation.root());
+        QVERIFY(OpenArchive(other, u"Some Game"_s));
+        const QString folder = game.launcher.facts.opened.folder;
+        QVERIFY(!folder.isEmpty() && other.facts.opened.folder != folder);
+        QVERIFY(game.installation.exists(u"VYKLaunch/Zips/some game.zip/extra.wad"_s));
+    }
+
+    // The engine would take the name for a switch.
+    void aNameThatBeginsAsASwitch()
+    {
+        InstalledGame game;
+        game.addWad(u"VYKGames/-x/Pwads/a.wad"_s, {u"MAP01"_s});
+        game.load();
+        game.show(View::InstalledGames);
+        game.selectGame(u"-X"_s);
+        QVERIFY(PlanLaunch(game.launcher).refusal.value_or(LaunchMessage()).text.contains(u"hyphen"_s));
     }
 
     void anAutoLoadingGameRemembersFileAndMap()

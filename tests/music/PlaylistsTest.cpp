@@ -83,6 +83,7 @@ private Q_SLOTS:
         QCOMPARE(f.saved(u"Tavro - TNT"_s), QByteArray("changed by the player"));
         QCOMPARE(f.installation.read(u"VYKLaunch/Music/Fennic.old"_s), QByteArray("old"));
         QVERIFY(f.installation.exists(u"OggVorbis/Fennic/tnt_stlks2.ogg"_s));
+        QVERIFY(f.saved(u"Fennic - TNT"_s).contains("\\OggVorbis\\Fennic\\tnt_stlks2.ogg\r\n"));
 
         QVERIFY(f.saved(u"Fennic - TNT"_s)
                     .startsWith("\r\n # -  INTERMISSION MUSIC FOR TNT\r\n\r\n"
@@ -116,6 +117,16 @@ private Q_SLOTS:
         LoadPlaylists(f.launcher);
         QVERIFY(!f.installation.exists(fileOf(u"K-Tor - Doom2"_s)));
         QCOMPARE(f.installation.read(u"VYKLaunch/Music/K-Tor - Doom2.old"_s), made + "E1M1 CD 02\r\n");
+
+        // The second one takes the place of no first, and one made with its pack's files is as made.
+        f.installation.add(fileOf(u"K-Tor - Doom2"_s), "second");
+        f.installation.add(u"OggVorbis/Fennic/d_stalks.ogg"_s);
+        LoadPlaylists(f.launcher);
+        QCOMPARE(f.installation.read(u"VYKLaunch/Music/K-Tor - Doom2.old"_s), made + "E1M1 CD 02\r\n");
+        QCOMPARE(f.installation.read(u"VYKLaunch/Music/K-Tor - Doom2.old2"_s), "second");
+        f.disk.removeTree(f.path(u"OggVorbis"_s));
+        LoadPlaylists(f.launcher);
+        QVERIFY(!f.installation.exists(u"VYKLaunch/Music/Fennic - TNT.old"_s));
     }
 
     void selectionMode()
@@ -225,6 +236,8 @@ private Q_SLOTS:
 
         f.window.onMusicForm = [&f](PlaylistEditor& editor) {
             QCOMPARE(editor.MusicList(), StandardLayout(MusicGame::Doom2));
+            f.prompts.expectMessage(Msg::ResultCancel);
+            QVERIFY(!editor.close());
             f.prompts.expectMessage(Msg::ResultNo);
             QVERIFY(editor.close());
         };
@@ -291,6 +304,8 @@ private Q_SLOTS:
 
         f.window.onMusicForm = [&f](PlaylistEditor& editor) {
             QCOMPARE(editor.MusicList(), StandardLayout(MusicGame::Doom2));
+            f.prompts.expectMessage(Msg::ResultCancel);
+            QVERIFY(!editor.close());
             f.prompts.expectMessage(Msg::ResultNo);
             QVERIFY(editor.close());
             QCOMPARE(f.prompts.titles.last(), u" Save playlist to new format"_s);

@@ -82,7 +82,7 @@ private Q_SLOTS:
                             QString(251, u'x') + u".wad"_s);
 
         // Whatever a name is made of, it becomes one that stays as it is, or none.
-        const QString characters = u"./\\: cC?é\x7f\u0001日OoNn1"_s;
+        const QString characters = u"./\\: cC?é\x7f\u0001日OoNn1-"_s;
         QRandomGenerator random(1);
         for (int round = 0; round < 5000; ++round) {
             QString text(random.bounded(2) * 254, u'é');
@@ -149,6 +149,33 @@ private Q_SLOTS:
         Extracting bomb(ZipMaker().add(zeros).bytes());
         QCOMPARE(bomb.run(), Extraction::TooLarge);
         QVERIFY(bomb.found().value(u"b"_s).size() <= 66 * 1024 * 1024);
+    }
+
+    // Each reason has a result of its own, and what would fill the memory is not tried.
+    void whatCannotBeUnpacked()
+    {
+        const QByteArray good = ZipMaker().add({"one.wad", wad, ZipMaker::Deflated}).bytes();
+        const auto packed = [&good](char method) {
+            QByteArray zip = good;
+            zip[8] = zip[zip.indexOf("PK\1\2") + 10] = method;
+            return zip;
+        };
+        QByteArray commented = good + QByteArray(0x5000, 'c'), largeDirectory = good;
+        commented[good.size() - 1] = 0x50;
+        largeDirectory[good.size() - 22 + 15] = 0x10;
+        const std::pair<QByteArray, Extraction> rows[] = {
+            {packed(9), Extraction::Deflate64},
+            {packed(6), Extraction::Imploded},
+            {packed(14), Extraction::OtherPacking},
+            {packed(93), Extraction::OtherPacking},
+            {commented, Extraction::LongComment},
+            {largeDirectory, Extraction::TooLarge},
+            {ZipMaker().add("folder/", {}).add("..", "x").bytes(), Extraction::NoFiles}};
+        for (const auto& [bytes, result] : rows) {
+            Extracting zip(bytes);
+            QCOMPARE(zip.run(), result);
+            QVERIFY(zip.found().isEmpty());
+        }
     }
 
     // Wherever it is cancelled or the disk fails: what was extracted before stays, and is whole.

@@ -144,6 +144,7 @@ private Q_SLOTS:
     {
         const QList<QPair<QStringList, QString>> rows{
             {{u"play"_s, u"Doom III"_s}, u"Doom III"_s},
+            {{u"play"_s, u"a\u001b[2Jb\u007f"_s}, u"\"a?[2Jb?\""_s}, // no commands for the terminal
             {{u"maps"_s, u"doom ii"_s, u"--view"_s, u"zips"_s}, u"doom ii"_s},
             {{u"play"_s, u"doom ii"_s, u"--map"_s, u"MAP33"_s}, u"MAP33"_s},
             {{u"play"_s, u"doom ii"_s, u"--save"_s, u"4"_s}, u"\"4\""_s},
