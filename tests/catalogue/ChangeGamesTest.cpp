@@ -89,71 +89,6 @@ private:
     }
 };
 
-struct Operation
-{
-    QString game;
-    View view;
-    MenuItem Controls::*command;
-    LaunchMessage denied, other; // what is said of the two kinds of failure
-    bool keepsEveryFile;
-};
-
-QList<Operation> operations()
-{
-    const QString conversion = u" Conversion error"_s;
-    const QString access = u" Access error"_s;
-    const LaunchMessage unknown{u"ERROR: Unknown error     "_s, conversion};
-    const LaunchMessage partly{u"Unable to fully remove the selected item from the games list,       \r\n"
-                               "associated files or folders may be in use by another program."_s,
-                               access};
-    const LaunchMessage zipInUse{u"Unable to remove the selected item from this list,       \r\n"
-                                 "   the file may be in use by another program."_s,
-                                 access};
-    const QString notRenamed = u"Unable to rename the selected item in this list,       \r\n  the "_s;
-    const QString inUse = u" may be in use by another program."_s;
-    const View games = View::InstalledGames;
-    return {
-        {u"ALPHA"_s,
-         games,
-         &Controls::mcGwadConvert,
-         {u"Access denied: File or folder may be in use     "_s, conversion},
-         unknown,
-         true},
-        {u"BETA"_s,
-         games,
-         &Controls::mcUdirConvert,
-         {u"Read only error, file can't be overwritten     "_s, conversion},
-         unknown,
-         true},
-        {u"ALPHA"_s,
-         games,
-         &Controls::mcRenameFolder,
-         {notRenamed + u"item"_s + inUse, access},
-         {u" Illegal naming convention detected.    "_s, u" Renaming error"_s},
-         true},
-        {u"PACK"_s,
-         View::ZipLibrary,
-         &Controls::mcRenameArchive,
-         {notRenamed + u"file"_s + inUse, access},
-         {u" Illegal naming convention detected. "_s, u" Renaming error"_s},
-         true},
-        {u"ALPHA"_s, games, &Controls::mcDeleteFolder, partly, partly, false},
-        {u"BETA"_s, games, &Controls::mcDeleteFile, partly, partly, false},
-        {u"PACK"_s, View::ZipLibrary, &Controls::mcDeleteArchive, zipInUse, zipInUse, false},
-    };
-}
-
-// Every file of the games and zips that was there has its bytes somewhere.
-bool keepsEveryFile(const Collection& games)
-{
-    const Contents now = games.contents();
-    for (auto file = games.before.cbegin(); file != games.before.cend(); ++file)
-        if ((file.key().startsWith(u"VYKGames/"_s) || file.key().startsWith(u"VYKArchives/"_s)) &&
-            !file.key().endsWith(u".vykchk"_s) && !now.values().contains(file.value()))
-            return false;
-    return true;
-}
-
 } // namespace
 
 class ChangeGamesTest : public QObject
@@ -329,37 +264,6 @@ private Q_SLOTS:
         games.run(&Controls::mcDeleteFolder);
         QVERIFY(!games.installation.exists(u"VYKGames/Linked"_s));
         QCOMPARE(games.installation.read(u"Elsewhere/Pwads/kept.wad"_s), "kept");
-    }
-
-    void failingCalls()
-    {
-        using Kind = FileError::Kind;
-        for (const Operation& operation : operations()) {
-            for (const Kind kind : {Kind::PermissionDenied, Kind::Other}) {
-                const LaunchMessage& expected = kind == Kind::Other ? operation.other : operation.denied;
-                int reported = 0;
-                for (int call = 1;; ++call) {
-                    Collection games(operation.game, operation.view);
-                    games.files.failAt(call, kind);
-                    games.prompts.allowMessages = true;
-                    games.run(operation.command);
-                    const bool failed = games.files.calls() >= call;
-                    const QString where = operation.game + expected.text + QString::number(call);
-                    QVERIFY2(!operation.keepsEveryFile || keepsEveryFile(games), qPrintable(where));
-                    for (const QString& kept :
-                         {u"VYKGames/Gamma/Pwads/old.wad"_s, u"VYKArchives/other.zip"_s})
-                        QVERIFY2(games.installation.exists(kept), qPrintable(where));
-                    QVERIFY(!games.controls.PwadList.isEmpty());
-                    if (const auto at = games.prompts.titles.indexOf(expected.title); at >= 0) {
-                        ++reported;
-                        QCOMPARE(games.prompts.texts.at(at), expected.text);
-                    }
-                    if (!failed)
-                        break;
-                }
-                QVERIFY(reported > 0);
-            }
-        }
     }
 
     void renamingZips()

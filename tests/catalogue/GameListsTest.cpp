@@ -165,23 +165,6 @@ private Q_SLOTS:
         QCOMPARE(controls.MapList.selectedText(), u"MAP31"_s);
     }
 
-    // Records that cannot be written or deleted are given up; the choice counts all the same.
-    void failingRecords()
-    {
-        CommercialGame game(remembering(true, true));
-        addSavegames(game);
-        game.pickMap(u"MAP07"_s);
-        game.pickSavegame(u"7 - Before the boss"_s);
-        game.files.failOn(u"GameInfo"_s, FileError::Kind::PermissionDenied);
-        game.pickSavegame(u"0 - Start, 'gun'"_s);
-        QCOMPARE(game.launcher.chosenSlot(), u"0"_s);
-        game.pickMap(u"MAP31"_s);
-        QCOMPARE(game.installation.read(doom2Map), "MAP07\r\n");
-        QCOMPARE(game.installation.read(doom2Save), "7\r\n");
-        QCOMPARE(LaunchSelectedGame(game.launcher), LaunchResult::Started);
-        QVERIFY(game.processes.lastCommandLine().endsWith(u" -sk 3 -wp 31 "_s));
-    }
-
     // The task menus as they are for each kind of game, and the convert items in development mode only.
     void taskMenus()
     {

@@ -256,50 +256,6 @@ private Q_SLOTS:
         }
     }
 
-    void failingCalls()
-    {
-        using Kind = FileError::Kind;
-        const QList<std::function<void(Library&)>> operations{
-            [](Library& library) { library.install(u"Downloads/My Levels.WAD"_s); },
-            [](Library& library) { library.install(u"Downloads/Pack.zip"_s); },
-            [](Library& library) { library.autoLoading(u"Auto"_s); },
-            [](Library& library) {
-                library.prompts.expectMessage(Msg::ResultYes);
-                library.byHand(u"Auto"_s);
-            },
-        };
-        const QStringList rows{u" Read only error, file can't be overwritten      "_s,
-                               u" Read only error, file can't be overwritten     "_s,
-                               u" Unknown error, Pwad can not be installed      "_s,
-                               u"ERROR: Unknown error     "_s, u" Unknown error     "_s};
-        for (qsizetype i = 0; i < operations.size(); ++i) {
-            for (const Kind kind : {Kind::InUse, Kind::Other}) {
-                int reported = 0;
-                for (int call = 1;; ++call) {
-                    Library library;
-                    library.show(View::ZipLibrary);
-                    const auto before = library.games();
-                    library.prompts.allowMessages = true;
-                    library.files.failAt(call, kind);
-                    operations.at(i)(library);
-                    const bool failed = library.files.calls() >= call;
-                    library.files.failAt(0, kind);
-                    if (!failed)
-                        break;
-                    const QString said =
-                        library.prompts.texts.isEmpty() ? QString() : library.prompts.texts.last();
-                    if (!rows.contains(said))
-                        continue; // a call that the operation can do without: it was done whole
-                    ++reported;
-                    RecoverGames(library.files, library.launcher.paths.GamesPath);
-                    QVERIFY2(library.games() == before, qPrintable(u"%1, call %2: %3"_s.arg(i).arg(call).arg(
-                                                            QStringList(library.games().keys()).join(u' '))));
-                }
-                QVERIFY(reported > 0);
-            }
-        }
-    }
-
     void cancelling()
     {
         for (const QString& file : {u"Downloads/My Levels.WAD"_s, u"Downloads/Pack.zip"_s}) {

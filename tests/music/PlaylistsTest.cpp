@@ -376,28 +376,6 @@ private Q_SLOTS:
         QVERIFY(f.processes.lastCommandLine().startsWith(u"\"/opt/an editor\" \""_s));
     }
 
-    void writeFailures()
-    {
-        Fixture f;
-        f.addPlaylist(u"Mine"_s);
-        f.launcher.settings.PlaylistName = u"Mine"_s;
-        PlaylistEditor editor(f.launcher, f.launcher.settings.PlaylistName);
-        QVERIFY(editor.open());
-        editor.setTrack(11, 1);
-        const QString path = f.path(fileOf(u"Mine"_s));
-        f.files.failOn(path, FileError::Kind::PermissionDenied);
-        f.prompts.expectMessage(Msg::ResultYes);
-        f.prompts.expectMessage();
-        QVERIFY(!editor.close()); // the edits are not lost
-        QCOMPARE(f.prompts.titles.last(), u" Access error"_s);
-        QCOMPARE(f.prompts.texts.last(), u"Unable to make changes to playlist    \r\n"_s);
-        QCOMPARE(f.saved(u"Mine"_s), bytesOf(StandardLayout(MusicGame::Doom2)));
-        f.files.failOn({}, FileError::Kind::Other);
-        f.disk.remove(path); // gone meanwhile: it is written anew
-        QVERIFY(editor.save());
-        QVERIFY(f.saved(u"Mine"_s).contains("MAP01 CD 01"));
-    }
-
     void hostileFiles()
     {
         const QByteArray standard = bytesOf(StandardLayout(MusicGame::Doom2));
