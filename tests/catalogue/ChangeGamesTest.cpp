@@ -89,6 +89,17 @@ private:
     }
 };
 
+// Every file of the games and zips that was there has its bytes somewhere.
+bool keepsEveryFile(const Collection& games)
+{
+    const Contents now = games.contents();
+    for (auto file = games.before.cbegin(); file != games.before.cend(); ++file)
+        if ((file.key().startsWith(u"VYKGames/"_s) || file.key().startsWith(u"VYKArchives/"_s)) &&
+            !file.key().endsWith(u".vykchk"_s) && !now.values().contains(file.value()))
+            return false;
+    return true;
+}
+
 } // namespace
 
 class ChangeGamesTest : public QObject
