@@ -426,7 +426,7 @@ bool DiskFileSystem::moveToTrash(const QString& path)
         return true;
     }
     QFile entry(found.path);
-    if (entry.moveToTrash())
+    if (HasTrash() && entry.moveToTrash())
         return true;
     // A system that could not keep it may say no and have deleted it all the same.
     if (!StatusOf(found.path).isThere)

@@ -1,13 +1,15 @@
 #include "platform/SystemTrash.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 bool HasTrash()
 {
-    // It is made there when it is needed first, with the folders above it.
-    QFileInfo place(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    while (!place.exists() && !place.isRoot())
-        place.setFile(place.path());
-    return place.isDir() && place.isWritable();
+    // Made here: where the folder is missing, Qt would take the current one in its place.
+    const QDir data(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    const QString trash = data.filePath(QStringLiteral("Trash"));
+    if (!QFileInfo(trash).isDir() && data.mkpath(QStringLiteral(".")))
+        data.mkdir(QStringLiteral("Trash"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return QFileInfo(trash).isDir() && QFileInfo(trash).isWritable();
 }

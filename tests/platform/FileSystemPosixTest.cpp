@@ -93,6 +93,24 @@ private Q_SLOTS:
         std::signal(SIGXFSZ, former);
     }
 
+    // For a user who has none yet, it is made; where it cannot be made, nothing goes anywhere.
+    void theTrash()
+    {
+        const QByteArray former = qgetenv("XDG_DATA_HOME");
+        m_disk.add(u"Game/Pwads/a.wad"_s, "game");
+        m_disk.add(u"taken"_s);
+        qputenv("XDG_DATA_HOME", QFile::encodeName(at(u"taken/share"_s)));
+        QVERIFY(!m_files.hasTrash() && !m_files.moveToTrash(at(u"Game"_s)));
+        QCOMPARE(m_disk.read(u"Game/Pwads/a.wad"_s), "game");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(at(u"home/share"_s)));
+        QVERIFY(m_files.hasTrash() && m_files.moveToTrash(at(u"game"_s)));
+        qputenv("XDG_DATA_HOME", former);
+        QCOMPARE(m_disk.read(u"home/share/Trash/files/Game/Pwads/a.wad"_s), "game");
+        QVERIFY(m_disk.exists(u"home/share/Trash/info/Game.trashinfo"_s) &&
+                !m_files.folderExists(at(u"Game"_s)));
+        QVERIFY_THROWS_EXCEPTION(FileError, m_files.moveToTrash(at(u"Game"_s)));
+    }
+
     void lockedFiles()
     {
         m_disk.add(u"File"_s, "text");
