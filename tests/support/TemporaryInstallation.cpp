@@ -31,9 +31,13 @@ QByteArray LittleEndian(qsizetype number)
 TemporaryInstallation::TemporaryInstallation()
 {
     Require(m_folder.isValid(), m_folder.path());
-    // What is deleted does not go to the trash of whoever runs the tests.
+    // What is deleted does not go to the trash of whoever runs the tests, and to one on this disk.
     static const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    static const bool isSet = [] {
+        return qputenv("HOME", QFile::encodeName(home.path())) &&
+               qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    }();
+    Require(isSet, home.path());
 }
 
 QString TemporaryInstallation::nativePath(const QString& relativePath) const
