@@ -172,11 +172,13 @@ public:
     // What differs from a fresh start with the same choice.
     QString difference()
     {
+        launcher->session.openedFolders.clear(); // two at once would open a zip in two folders
         const auto fresh = start(launcher->settings);
         fresh->selection = launcher->selection;
         ReadSelectedGame(*fresh);
         fresh->facts.titlePictures = launcher->facts.titlePictures;
         ShowWindow(*fresh);
+        fresh->session.openedFolders.clear();
         const auto here = seen(launcher->controls), there = seen(fresh->controls);
         QString text;
         for (auto control = here.cbegin(); control != here.cend(); ++control)
