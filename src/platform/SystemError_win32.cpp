@@ -35,7 +35,6 @@ FileError::Kind KindOfSystemError(int number)
         return InUse;
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
-    case ERROR_DISK_QUOTA_EXCEEDED:
         return DiskFull;
     default:
         return Other;
