@@ -6,6 +6,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 
 option(VYK_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 option(VYK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(VYK_FUZZ "Build the fuzzers, with Clang" OFF)
 
 target_compile_options(compile_settings INTERFACE
     -Wall
@@ -17,8 +18,8 @@ target_compile_options(compile_settings INTERFACE
     -Wold-style-cast      # casts must be findable
     -Wcast-align
     -Wnull-dereference
-    -Wduplicated-cond     # a rule pasted twice
-    -Wlogical-op
+    $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>  # a rule pasted twice
+    $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>
     -Wextra-semi
 )
 if(VYK_WARNINGS_AS_ERRORS)
@@ -27,6 +28,10 @@ endif()
 if(VYK_SANITIZE)
     target_compile_options(compile_settings INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(compile_settings INTERFACE -fsanitize=address,undefined)
+elseif(VYK_FUZZ)
+    target_compile_options(compile_settings INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(compile_settings INTERFACE -fsanitize=address,undefined)
 else()
     # The standard library's own checks of indexes and iterators, at next to no cost.

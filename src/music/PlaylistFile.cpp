@@ -15,7 +15,7 @@ const QByteArray byteOrderMark = "\xEF\xBB\xBF"_ba;
 
 bool isText(const QString& line)
 {
-    constexpr QChar rubout(0x7F);
+    constexpr char16_t rubout = 0x7F;
     return std::ranges::all_of(line, [](QChar c) { return c == u'\t' || (c >= u' ' && c != rubout); });
 }
 

@@ -24,7 +24,7 @@ void WriteShortcut(FileSystem& files, const Shortcut& shortcut)
     // What a launch would start; where it cannot be started now, the program as it is named.
     const QStringList arguments = SplitCommandLine(shortcut.arguments);
     const Command command = ResolveCommand(files, shortcut.program, arguments, shortcut.launchFolder)
-                                .value_or(Command{shortcut.target, arguments, shortcut.launchFolder});
+                                .command.value_or(Command{shortcut.target, arguments, shortcut.launchFolder});
     WriteDesktopEntry(files, path + u".desktop"_s,
                       {.name = shortcut.name,
                        .comment = {},

@@ -27,8 +27,7 @@ bool IsWindowsProgram(const FileSystem& files, const QString& path)
     }
 }
 
-std::expected<Command, int> Resolve(const FileSystem& files, const QString& commandLine,
-                                    const QString& folder)
+ResolvedCommand Resolve(const FileSystem& files, const QString& commandLine, const QString& folder)
 {
     QStringList arguments = SplitCommandLine(commandLine);
     const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
@@ -76,9 +75,9 @@ QByteArray EndOf(const QString& path)
 
 Captured SystemProcesses::capture(const QString& commandLine, const QString& folder)
 {
-    const auto command = Resolve(m_files, commandLine, folder);
+    const auto [command, error] = Resolve(m_files, commandLine, folder);
     if (!command)
-        return {false, QString::number(command.error()), {}};
+        return {false, QString::number(error), {}};
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardInputFile(QProcess::nullDevice());
@@ -98,7 +97,7 @@ Captured SystemProcesses::capture(const QString& commandLine, const QString& fol
 
 bool SystemProcesses::start(const QString& commandLine, const QString& folder)
 {
-    const auto command = Resolve(m_files, commandLine, folder);
+    const auto command = Resolve(m_files, commandLine, folder).command;
     if (!command)
         return false;
     QProcess process;
@@ -109,7 +108,7 @@ bool SystemProcesses::start(const QString& commandLine, const QString& folder)
 bool SystemProcesses::startWatched(const QString& commandLine, const QString& folder,
                                    const ProgramWatch& watch)
 {
-    const auto command = Resolve(m_files, commandLine, folder);
+    const auto command = Resolve(m_files, commandLine, folder).command;
     if (!command)
         return false;
     auto process = std::make_unique<WatchedProgram>();
@@ -147,20 +146,20 @@ bool SystemProcesses::startWatched(const QString& commandLine, const QString& fo
     return true;
 }
 
-std::expected<Command, int> ResolveCommand(const FileSystem& files, const QString& name,
-                                           const QStringList& arguments, const QString& folder)
+ResolvedCommand ResolveCommand(const FileSystem& files, const QString& name, const QStringList& arguments,
+                               const QString& folder)
 {
     const QString program = FindProgram(files, name, folder);
     if (program.isEmpty() || !files.folderExists(folder))
-        return std::unexpected(noSuchProgram);
+        return {.command = {}, .error = noSuchProgram};
     const QString actualFolder = files.actualPath(folder);
     const bool onWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
     if (onWindows || !IsWindowsProgram(files, program))
-        return Command{program, arguments, actualFolder};
+        return {.command = Command{program, arguments, actualFolder}};
     const QString wine = QStandardPaths::findExecutable(u"wine"_s);
     if (wine.isEmpty())
-        return std::unexpected(noProgram);
-    return Command{wine, QStringList(program) + arguments, actualFolder};
+        return {.command = {}, .error = noProgram};
+    return {.command = Command{wine, QStringList(program) + arguments, actualFolder}};
 }
 
 QString FindProgram(const FileSystem& files, const QString& name, const QString& folder)

@@ -6,7 +6,7 @@
 #include <QObject>
 
 #include <chrono>
-#include <expected>
+#include <optional>
 
 // The system's processes.
 class SystemProcesses : public Processes
@@ -41,6 +41,12 @@ struct Command
     QString folder;
 };
 
+struct ResolvedCommand
+{
+    std::optional<Command> command;
+    int error = 0; // the system's number when there is none
+};
+
 // What starting the program `name` in `folder` with these arguments starts, or the system's error number.
-std::expected<Command, int> ResolveCommand(const FileSystem& files, const QString& name,
-                                           const QStringList& arguments, const QString& folder);
+ResolvedCommand ResolveCommand(const FileSystem& files, const QString& name, const QStringList& arguments,
+                               const QString& folder);

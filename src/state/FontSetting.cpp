@@ -18,7 +18,7 @@ FontSetting LoadFontSetting(const FileSystem& files, const QString& path)
         font.FontName = line.left(comma); // all of it when there is no comma
         if (comma >= 0)
             font.FontSize =
-                qBound(0, static_cast<int>(line.mid(comma + 1).section(u',', 0, 0).toDouble()), 72);
+                static_cast<int>(qBound(0.0, line.mid(comma + 1).section(u',', 0, 0).toDouble(), 72.0));
         if (font.FontName.isEmpty())
             font.CustomFontOn = false;
     } catch (const FileError&) {

@@ -13,7 +13,7 @@ const QString launcherName = u"VYKLauncher"_s;
 bool AddLauncherToMenu(FileSystem& files, const MenuFolders& folders, const InstallationPaths& paths,
                        QTextStream& err)
 {
-    const auto command = ResolveCommand(files, u"Bin\\VYKlauncher"_s, {}, paths.RootPath);
+    const auto command = ResolveCommand(files, u"Bin\\VYKlauncher"_s, {}, paths.RootPath).command;
     if (!command) {
         err << "There is no launcher in " << paths.RootPath << "/Bin." << Qt::endl;
         return false;
