@@ -308,14 +308,14 @@ private Q_SLOTS:
 
     void eachCallFails()
     {
+        if (OnWindows)
+            QSKIP("under Wine each of its two thousand installations takes its time");
         for (const Operation& operation : operations()) {
             int calls = 0;
             const Contents wanted = wantedOf(operation, calls, m_called);
             QVERIFY2(calls > 0, operation.name);
-            QList<FileError::Kind> kinds{FileError::Kind::PermissionDenied};
-            if (!OnWindows) // where each call takes its time
-                kinds += {FileError::Kind::DiskFull, FileError::Kind::InUse};
-            for (const FileError::Kind kind : kinds) {
+            for (const auto kind :
+                 {FileError::Kind::PermissionDenied, FileError::Kind::DiskFull, FileError::Kind::InUse}) {
                 for (int call = 1; call <= calls; ++call) {
                     QDir(trash()).removeRecursively();
                     World world;
